@@ -1,0 +1,251 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Session, scan, files and reports. What a session with an instrument does stands in coresession.cpp.
+
+#include "app/core.h"
+
+#include "model/buildinfo.h"
+#include "link/factories.h"
+#include "model/exposurecomponent.h"
+#include "model/filename.h"
+#include "report/vfprinter.h"
+
+#include <QCoreApplication>
+#include <QJsonDocument>
+#include <QQmlEngine>
+
+namespace {
+
+QString compactText(const QJsonObject &object)
+{
+    return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+Core::Core(PortNames portNames, QObject *parent) : QObject(parent), m_portNames(std::move(portNames))
+{
+}
+
+Core::~Core()
+{
+    qDeleteAll(m_experimentList);
+}
+
+QVariant Core::deviceList() const
+{
+    QList<QObject *> list;
+    for (const DevicePtr &device : m_deviceList)
+        list.append(device.get());
+    return QVariant::fromValue(list);
+}
+
+QVariant Core::experimentList() const
+{
+    return QVariant::fromValue(QList<QObject *>(m_experimentList.cbegin(), m_experimentList.cend()));
+}
+
+QVariant Core::virtualSchedulelist() const
+{
+    return QVariant::fromValue(QList<QObject *>());
+}
+
+QVariant Core::expCompList() const
+{
+    QList<QObject *> components;
+    for (Experiment *member = m_chain.get(); member; member = member->next()) {
+        ExposureComponent *component = FactoryExposureComponent::create(devName());
+        if (!component) {
+            qDeleteAll(components);
+            return QVariant::fromValue(QList<QObject *>());
+        }
+        component->fromExperiment(member);
+        QQmlEngine::setObjectOwnership(component, QQmlEngine::JavaScriptOwnership);
+        components.append(component);
+    }
+    return QVariant::fromValue(components);
+}
+
+QString Core::devName() const
+{
+    return m_device ? m_device->productName() : QString();
+}
+
+QVariant Core::device() const
+{
+    return m_device ? m_device->toJson() : QJsonObject();
+}
+
+QString Core::experiment() const
+{
+    if (m_experimentText.isNull() && m_experiment)
+        m_experimentText = compactText(m_experiment->toJson());
+    return m_experimentText;
+}
+
+QString Core::configuration() const
+{
+    return m_device && m_device->config() ? compactText(m_device->config()->toJson()) : QString();
+}
+
+QString Core::calib() const
+{
+    return m_device ? compactText(m_device->calibration().toJson()) : QString();
+}
+
+QString Core::version() const
+{
+    return BuildInfo::version();
+}
+
+QString Core::builtDate() const
+{
+    return BuildInfo::builtDate();
+}
+
+QString Core::builtYear() const
+{
+    return BuildInfo::builtYear();
+}
+
+QString Core::revision() const
+{
+    return BuildInfo::revision();
+}
+
+void Core::clearDeviceList()
+{
+    // The pages let go of the objects before they are deleted.
+    const QList<DevicePtr> gone = std::exchange(m_deviceList, {});
+    emit devListUpdate();
+    for (const DevicePtr &device : gone)
+        device->interface()->close();
+}
+
+void Core::clearExperimentList()
+{
+    const QList<Experiment *> gone = std::exchange(m_experimentList, {});
+    emit experimentListUpdate();
+    qDeleteAll(gone);
+}
+
+void Core::setCurrent(Experiment *experiment)
+{
+    m_experiment = experiment;
+    m_experimentText = QString();
+}
+
+void Core::setChain(ExperimentChain chain)
+{
+    setCurrent(chain.get());
+    m_chain = std::move(chain);
+}
+
+void Core::beginSession(DevicePtr device)
+{
+    ++m_session;
+    if (m_device)
+        m_device->disconnect(this);
+    m_device = std::move(device);
+}
+
+void Core::dropSession()
+{
+    ++m_session;
+    emit deviceDisconnected();
+    setChain(nullptr);
+    m_file.reset();
+    clearDeviceList();
+    clearExperimentList();
+}
+
+void Core::closePorts()
+{
+    ++m_session;
+    for (const DevicePtr &device : qAsConst(m_deviceList))
+        device->interface()->close();
+}
+
+void Core::findDevices()
+{
+    const int session = ++m_session;
+    clearDeviceList();
+    const QStringList names = m_portNames();
+    const auto count = static_cast<float>(names.size());
+    for (int i = 0; i < names.size(); ++i) {
+        emit findingDevices(static_cast<double>(static_cast<float>(i + 1) / count * 100.0f));
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+        const auto device = std::make_shared<Device>();
+        const bool answers = device->openPort(names[i]) == 0 && device->identify() == 0;
+        if (session != m_session)
+            return; // another session began during the wait
+        if (!answers || device->manufactoryName() != QLatin1String("morvane"))
+            continue;
+        QQmlEngine::setObjectOwnership(device.get(), QQmlEngine::CppOwnership);
+        m_deviceList.append(device);
+    }
+    emit devListUpdate();
+    emit findDeviceFinished();
+}
+
+int Core::saveExperimentToFile(QString fileName)
+{
+    const QString product = devName();
+    m_file.reset(FactoryFile::createForSave(product, pathFromUrl(fileName)));
+    if (!m_file)
+        return DeviceError;
+    const QByteArray content = VfFile::contentFor(m_device->toJson(), m_chain.get());
+    if (m_file->save(content))
+        return DeviceSuccessful;
+    emit openFileError(product);
+    return DeviceError;
+}
+
+void Core::parseFile(QString fileName)
+{
+    const int session = ++m_session;
+    setChain(nullptr);
+    m_file.reset(FactoryFile::createForOpen(pathFromUrl(fileName)));
+    if (!m_file || !m_file->open(QIODevice::ReadOnly)) {
+        emit invalidFile();
+        return;
+    }
+    emit fileReadStarted();
+    if (session != m_session)
+        return;
+    QByteArray content = m_file->readAll();
+    m_file->close();
+    beginSession(DevicePtr(m_file->parseDevice(content)));
+    if (m_device)
+        setChain(ExperimentChain(m_file->parseExperiment(std::move(content))));
+    if (m_file->status() != VfFile::NoError) {
+        beginSession(nullptr);
+        setChain(nullptr);
+        m_file.reset();
+        emit invalidFile();
+    } else if (m_experiment) {
+        emit expCompListUpdate();
+        emit experimentUpdated(m_experiment->chainPosition());
+    }
+    emit fileReadFinished();
+}
+
+int Core::generateReport(QString json)
+{
+    const std::unique_ptr<VfPrinter> printer(FactoryPrinter::create(devName()));
+    if (!printer) {
+        emit unsupportedDevice();
+        return DeviceError;
+    }
+    if (!m_chain)
+        return DeviceError;
+    printer->setProductName(m_device->productName());
+    printer->setSn(m_device->sn());
+    printer->setCalibration(m_device->calibration());
+    printer->setParameters(json);
+    printer->setExperiment(m_chain.get());
+    if (printer->printReport() == 0) {
+        printer->endPainting();
+        printer->openResult();
+    }
+    return DeviceSuccessful;
+}

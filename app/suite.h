@@ -1,0 +1,8 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "link/portnames.h"
+
+/// Runs the program from the splash screen to the end of the event loop. \a portNames names the ports that a scan looks
+/// at. Gives the process's exit code.
+int runSuite(int argc, char **argv, PortNames portNames);

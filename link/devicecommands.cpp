@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The commands that every instrument answers alike.
+
+#include "link/device.h"
+
+#include "link/factories.h"
+#include "model/atdatetime.h"
+#include "model/experiment.h"
+#include "model/results.h"
+
+#include <QDebug>
+#include <QElapsedTimer>
+
+int Device::setClock(const QDateTime &when)
+{
+    const QString command = QStringLiteral("AT+CCLK=\"%1\"\r\n").arg(AtDateTime::toAtString(when));
+    return query(command.toLatin1(), "\r\n+CCLK: ").code;
+}
+
+int Device::eraseMemory()
+{
+    return query("AT+VFERSMM\r\n", "\r\n+VFERSMM: ").code;
+}
+
+QList<Experiment *> Device::acquireExperimentList()
+{
+    const Reply reply = query("AT+VFXPLST\r\n", "\r\n+VFXPLST: ");
+    if (reply.code != DeviceSuccessful)
+        return {};
+    QByteArray text = reply.data;
+    const QList<QByteArray> lines = text.replace('\n', "").split('\r');
+    if (lines.size() == 1 && lines.first().isEmpty())
+        return {}; // an empty memory
+
+    QList<Experiment *> experiments;
+    for (const QByteArray &line : lines) {
+        Experiment *experiment = FactoryExperiment::create(m_productName);
+        experiments.append(experiment);
+        if (experiment && experiment->parseHeader(line) != 0) {
+            qDeleteAll(experiments);
+            return {};
+        }
+    }
+    return experiments;
+}
+
+QList<QByteArray> Device::acquireLogs(const Experiment *exp)
+{
+    constexpr int ChunkSize = 10;
+    const QByteArray index = QByteArray::number(exp->index());
+    const int size = exp->size();
+    QElapsedTimer elapsed;
+    elapsed.start();
+    emit dataRegisterProgessUpdate(0.0);
+
+    QList<QByteArray> lines;
+    qint64 total = 0;
+    int done = 0;
+    do {
+        const int chunk = qMin(size - done, ChunkSize);
+        const QByteArray range = QByteArray::number(done + 1) + ',' + QByteArray::number(done + chunk);
+        if (sendCommand("AT+VFRDXP=" + index + ',' + range + "\r\n") != 0)
+            break;
+        const QByteArray answer = readResponse();
+        total += answer.size();
+        Reply reply = sortReply(answer, "\r\n+VFRDXP: ", Match::End, "+VFRDXP: ");
+        if (reply.code != DeviceSuccessful)
+            break;
+        const QList<QByteArray> records = reply.data.replace("\r\n", "\n\r").split('\r');
+        if (records.size() != chunk)
+            break; // fewer records than asked for, or more: none of them can be placed
+        lines += records;
+        done += chunk;
+        emit dataRegisterProgessUpdate(static_cast<double>(static_cast<float>(done) * 100.0f / static_cast<float>(size)));
+    } while (done < size);
+
+    const qint64 milliseconds = qMax<qint64>(elapsed.elapsed(), 1);
+    qDebug().nospace().noquote() << "\r\nBytes :" << total << "\r\nTempo :" << milliseconds
+                                 << "\r\nTaxa :" << total * 8 / milliseconds << " kbps";
+    return done == size ? lines : QList<QByteArray>();
+}
+
+int Device::experimentIndex(const Experiment *exp)
+{
+    return exp->index();
+}
+
+std::optional<QByteArray> Device::acquireHeader(int header, int index)
+{
+    const QByteArray place = QByteArray::number(header) + ',' + QByteArray::number(index);
+    const Reply reply = query("AT+VFXPHDR=" + place + "\r\n", "\r\n+VFXPHDR: ");
+    if (reply.code != DeviceSuccessful)
+        return std::nullopt;
+    return reply.data;
+}
+
+int Device::finishHeaderRead(Results *results, int index)
+{
+    const QByteArray command = "AT+VFXPHDR=8," + QByteArray::number(index) + "\r\n";
+    if (sendCommand(command) != 0)
+        return DeviceDisconnected;
+    const Reply reply = sortReply(readResponse(), "\r\n+VFXPHDR: ", Match::End);
+    if (reply.code == DeviceSuccessful)
+        return results->parseClosingRecord(reply.data);
+    if (reply.code != DeviceBusy)
+        return DeviceError;
+    emit busy();
+    return DeviceBusy;
+}
+
+Results *Device::acquireResults(Experiment *)
+{
+    return nullptr;
+}
+
+int Device::sndCalibration(const Calibration *calib)
+{
+    const QString command = QStringLiteral("AT+VFCTF=\"%1\",\"%2\"\r\n")
+                                .arg(AtDateTime::toAtString(calib->date), calib->certification.toUpper());
+    const int code = query(command.toLatin1(), "\r\n+VFCTF: ", Match::Whole).code;
+    if (code == DeviceBusy)
+        emit busy();
+    return code == DeviceDisconnected ? DeviceError : code;
+}
+
+int Device::acquireCalibration()
+{
+    Reply reply = query("AT+VFCTF?\r\n", "\r\n+VFCTF: ");
+    if (reply.code == DeviceSuccessful)
+        return m_calibration.parseDeviceAnswer(QString::fromLatin1(reply.data.replace("\r\n", "")));
+    return reply.code == DeviceDisconnected ? DeviceError : reply.code;
+}
+
+int Device::queryServiceConfig(int &value)
+{
+    const Reply reply = query("AT+VFSVCCFG?\r\n", "\r\n+VFSVCCFG: ");
+    if (reply.code == DeviceSuccessful)
+        value = reply.data.toInt();
+    return reply.code;
+}

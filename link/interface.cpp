@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/interface.h"
+
+#include "link/reply.h"
+
+#include <QCoreApplication>
+
+namespace {
+
+constexpr qint64 SilenceLimit = 500; // milliseconds, restarted by every arrival
+
+bool endsAnswer(const QByteArray &bytes)
+{
+    return bytes.endsWith(EndOk) || bytes.endsWith(EndError) || bytes.endsWith(EndBusy);
+}
+
+} // namespace
+
+Interface::~Interface()
+{
+    close();
+}
+
+int Interface::open()
+{
+    if (m_linkType != 0)
+        return m_linkType > 2 ? 1 : 0;
+    m_port = std::make_unique<QSerialPort>(m_portName);
+    // No rate, parity or flow control is set: the instruments are USB devices, on which these do not matter.
+    if (!m_port->open(QIODevice::ReadWrite)) {
+        m_port.reset();
+        return 1;
+    }
+    m_errorConnection = connect(m_port.get(), &QSerialPort::errorOccurred, this, &Interface::serialErrorOcurred);
+    m_readConnection = connect(m_port.get(), &QSerialPort::readyRead, this, &Interface::readData);
+    return 0;
+}
+
+int Interface::close()
+{
+    if (m_linkType != 0)
+        return m_linkType;
+    disconnect(m_errorConnection);
+    disconnect(m_readConnection);
+    m_port.reset();
+    return 0;
+}
+
+int Interface::write(const QByteArray &data)
+{
+    // Between a command and its answer nothing else may be sent: the answers would be taken for one another.
+    if (!m_port || !m_port->isOpen() || m_waiting)
+        return 1;
+    m_port->clear(QSerialPort::AllDirections);
+    m_responseComplete = false;
+    const qint64 accepted = m_port->write(data);
+    return m_port->error() != QSerialPort::NoError || accepted < data.size() ? 1 : 0;
+}
+
+void Interface::readData()
+{
+    m_buffer += m_port->readAll();
+    m_lastActivity.start();
+    m_responseComplete = endsAnswer(m_buffer);
+}
+
+// The spin costs a core while it waits, and is the fastest way to the next byte; pumping the event loop is what keeps
+// the window alive during a download.
+QByteArray Interface::read()
+{
+    if (m_waiting)
+        return {};
+    m_waiting = true;
+    m_lastActivity.start();
+    while (m_port && !m_responseComplete && m_lastActivity.elapsed() < SilenceLimit)
+        QCoreApplication::processEvents();
+    m_waiting = false;
+    QByteArray result;
+    result.swap(m_buffer);
+    return result;
+}
+
+void Interface::serialErrorOcurred(QSerialPort::SerialPortError s)
+{
+    if (s == QSerialPort::ResourceError) {
+        // The instrument is gone. The port would say so again on every turn of the event loop and keep a core busy
+        // for as long as nobody picks this instrument, so it is closed; its error() stays for who asks.
+        disconnect(m_errorConnection);
+        QMetaObject::invokeMethod(m_port.get(), [port = m_port.get()] { port->close(); }, Qt::QueuedConnection);
+    }
+    emit ifaceErrorOcurred(s);
+}

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "link/products.h"
+
+#include "thalvex2/thalvex2.h"
+#include "thalvex2/thalvex2config.h"
+#include "thalvex2/thalvex2experiment.h"
+#include "thalvex2/thalvex2file.h"
+#include "thalvex2/thalvex2log.h"
+#include "thalvex2/thalvex2printer.h"
+#include "thalvex2/thalvex2results.h"
+
+#include <algorithm>
+
+namespace {
+
+template <class Base, class T> Base *make()
+{
+    return new T;
+}
+
+template <class D, class Config, class Exp, class File, class L, class Printer, class R>
+Product product(const char *name, const char *ending, ExposureComponent *(*exposureComponent)() = nullptr)
+{
+    return {
+        name,
+        ending,
+        [](const Device &plain) -> Device * { return new D(plain); },
+        make<Device, D>,
+        make<DeviceConfig, Config>,
+        make<Experiment, Exp>,
+        [](const QString &path) -> VfFile * { return new File(path); },
+        make<Log, L>,
+        make<VfPrinter, Printer>,
+        make<Results, R>,
+        exposureComponent,
+    };
+}
+
+/// All products. A new one is a row here.
+const Product products[] = {
+    product<Thalvex2, Thalvex2Config, Thalvex2Experiment, Thalvex2File, Thalvex2Log, Thalvex2Printer, Thalvex2Results>(
+        "THALVEX 2", ".tvx"),
+};
+
+template <class Predicate> const Product *productWhere(Predicate predicate)
+{
+    const auto found = std::find_if(std::begin(products), std::end(products), predicate);
+    return found == std::end(products) ? nullptr : found;
+}
+
+} // namespace
+
+const Product *productByName(const QString &name)
+{
+    return productWhere([&](const Product &product) { return name == QLatin1String(product.name); });
+}
+
+const Product *productByEnding(const QString &fileName)
+{
+    return productWhere([&](const Product &product) { return fileName.endsWith(QLatin1String(product.ending)); });
+}

@@ -1,0 +1,174 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/experiment.h"
+
+#include "link/factories.h"
+#include "model/log.h"
+#include "model/results.h"
+
+Experiment::Experiment(const QString &deviceName) : m_deviceName(deviceName)
+{
+}
+
+Experiment::~Experiment()
+{
+    qDeleteAll(m_logs);
+}
+
+void Experiment::setDateTime(const QDateTime &dateTime)
+{
+    if (m_dateTime == dateTime)
+        return;
+    m_dateTime = dateTime;
+    emit experimentDateTimeChanged();
+}
+
+void Experiment::setSize(int size)
+{
+    if (m_size == size)
+        return;
+    m_size = size;
+    emit experimentSizeChanged();
+}
+
+void Experiment::setIndex(int index)
+{
+    if (m_index == index)
+        return;
+    m_index = index;
+    emit experimentIndexChanged();
+}
+
+void Experiment::setLogs(const QList<Log *> &logs)
+{
+    qDeleteAll(m_logs);
+    m_logs = logs;
+}
+
+void Experiment::setResults(std::unique_ptr<Results> results)
+{
+    m_results = std::move(results);
+}
+
+void Experiment::copyFrom(const Experiment *other)
+{
+    setSize(other->size());
+    setIndex(other->index());
+    setDateTime(other->dateTime());
+}
+
+int Experiment::parseLogs(const QList<QByteArray> &lines)
+{
+    setLogs({});
+    m_logs.reserve(lines.size());
+    for (const QByteArray &line : lines) {
+        std::unique_ptr<Log> log(FactoryLog::create(m_deviceName));
+        if (!log || log->parse(line) != 0)
+            return 1;
+        m_logs.append(log.release());
+    }
+    return 0;
+}
+
+const Fields<Experiment> &Experiment::listFields()
+{
+    static const Fields<Experiment> rows = {
+        {"index", InRecord, 1, &Experiment::m_index},
+        {"size", InRecord, 2, &Experiment::m_size},
+        {"date", InRecord, 3, &Experiment::m_dateTime},
+    };
+    return rows;
+}
+
+Pieces Experiment::parseListLine(const QByteArray &line, int atLeast)
+{
+    const Pieces list = pieces(line, "+VFXPLST: ");
+    if (list.size() < atLeast)
+        return {};
+    readPieces(*this, listFields(), InRecord, list);
+    return list;
+}
+
+QJsonObject Experiment::sharedJson() const
+{
+    QJsonArray logList;
+    for (const Log *log : m_logs)
+        logList.append(log->toJson());
+    // index and size are texts in files, the place in the chain is a number
+    return {
+        {QStringLiteral("date"), AtDateTime::toAtString(m_dateTime)},
+        {QStringLiteral("size"), QString::number(m_size)},
+        {QStringLiteral("deviceName"), m_deviceName},
+        {QStringLiteral("index"), QString::number(m_index)},
+        {QStringLiteral("eventIndex"), ordinal()},
+        {QStringLiteral("logList"), logList},
+        {QStringLiteral("results"), m_results ? m_results->toJson() : QJsonObject()},
+    };
+}
+
+void Experiment::fromJson(const QJsonObject &body, const QString &product)
+{
+    setDateTime(AtDateTime::fromAtString(body[QLatin1String("date")].toString()));
+    setDeviceName(body[QLatin1String("deviceName")].toString());
+    setIndex(body[QLatin1String("index")].toString().toInt());
+    setSize(body[QLatin1String("size")].toString().toInt());
+
+    const QJsonArray logList = body[QLatin1String("logList")].toArray();
+    QList<Log *> logs;
+    logs.reserve(logList.size());
+    for (const QJsonValue &entry : logList) {
+        Log *log = FactoryLog::create(product);
+        log->fromJson(entry.toObject());
+        logs.append(log);
+    }
+    setLogs(logs);
+
+    std::unique_ptr<Results> results(FactoryResults::create(product));
+    results->fromJson(body[QLatin1String("results")].toObject());
+    setResults(std::move(results));
+}
+
+const Experiment *Experiment::first() const
+{
+    const Experiment *member = this;
+    while (member->m_prev)
+        member = member->m_prev;
+    return member;
+}
+
+Experiment *Experiment::first()
+{
+    return const_cast<Experiment *>(qAsConst(*this).first());
+}
+
+void Experiment::append(Experiment *experiment)
+{
+    Experiment *last = this;
+    while (last->m_next)
+        last = last->m_next;
+    last->m_next = experiment;
+    experiment->m_prev = last;
+}
+
+int Experiment::chainPosition() const
+{
+    if (!m_prev)
+        return m_next ? FirstItem : UniqueItem;
+    return m_next ? MiddleItem : LastItem;
+}
+
+int Experiment::ordinal() const
+{
+    int place = 1;
+    for (const Experiment *member = m_prev; member; member = member->m_prev)
+        ++place;
+    return place;
+}
+
+void Experiment::deleteChain()
+{
+    for (Experiment *member = this; member;) {
+        Experiment *next = member->m_next;
+        delete member;
+        member = next;
+    }
+}

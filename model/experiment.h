@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/field.h"
+
+#include <QList>
+#include <QObject>
+
+#include <memory>
+
+class Log;
+class Results;
+
+/// One measurement, listed by an instrument, downloaded from it or read from a file.
+/// Owns its logs and results. Experiments that were brought in together form a chain through next and prev.
+class Experiment : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QDateTime dateTime READ dateTime WRITE setDateTime NOTIFY experimentDateTimeChanged)
+    Q_PROPERTY(int size READ size WRITE setSize NOTIFY experimentSizeChanged)
+    Q_PROPERTY(int index READ index WRITE setIndex NOTIFY experimentIndexChanged)
+
+public:
+    /// Where an experiment stands in its chain, as the pages know it.
+    enum ChainPosition { UniqueItem = -3, FirstItem = -2, LastItem = -1, MiddleItem = 0 };
+
+    explicit Experiment(const QString &deviceName = {});
+    ~Experiment() override;
+
+    QDateTime dateTime() const { return m_dateTime; }
+    void setDateTime(const QDateTime &dateTime);
+    /// Number of records.
+    int size() const { return m_size; }
+    void setSize(int size);
+    /// Number of the experiment in the instrument's memory.
+    int index() const { return m_index; }
+    void setIndex(int index);
+    /// Product name.
+    QString deviceName() const { return m_deviceName; }
+    void setDeviceName(const QString &name) { m_deviceName = name; }
+
+    QList<Log *> logs() const { return m_logs; }
+    /// Takes ownership of \a logs and deletes those that were there.
+    void setLogs(const QList<Log *> &logs);
+    /// Null until set.
+    Results *results() const { return m_results.get(); }
+    void setResults(std::unique_ptr<Results> results);
+
+    /// Copies what the list of an instrument tells: size, index and date.
+    virtual void copyFrom(const Experiment *other);
+    /// Makes a log of each line, in order. 0, or 1 at the first line that is refused.
+    [[nodiscard]] virtual int parseLogs(const QList<QByteArray> &lines);
+    /// The experiment as it stands in files and on the pages.
+    virtual QJsonObject toJson() const = 0;
+    /// Reads one line of an instrument's list: 0, or -1 with too few fields.
+    [[nodiscard]] virtual int parseHeader(const QByteArray &line) = 0;
+    /// Reads what toJson() wrote, with logs and results of \a product's classes.
+    virtual void fromJson(const QJsonObject &body, const QString &product);
+
+    Experiment *next() const { return m_next; }
+    void setNext(Experiment *next) { m_next = next; }
+    Experiment *prev() const { return m_prev; }
+    void setPrev(Experiment *prev) { m_prev = prev; }
+    /// First member of the chain.
+    Experiment *first();
+    const Experiment *first() const;
+    /// Links \a experiment behind the last member.
+    void append(Experiment *experiment);
+    int chainPosition() const;
+    /// Place in the chain, from 1: the experiment's number in a report.
+    int ordinal() const;
+    /// Deletes the whole chain, this member included. Called on the first member.
+    void deleteChain();
+
+signals:
+    void experimentDateTimeChanged();
+    void experimentSizeChanged();
+    void experimentIndexChanged();
+
+protected:
+    /// What all families write: date, size, device name, index, place in the chain, logs and results.
+    QJsonObject sharedJson() const;
+    /// Reads index, size and date of a list line that has at least \a atLeast fields: the pieces, or none when refused.
+    Pieces parseListLine(const QByteArray &line, int atLeast);
+
+private:
+    static const Fields<Experiment> &listFields();
+
+    QDateTime m_dateTime;
+    int m_size = 0;
+    int m_index = 0;
+    QString m_deviceName;
+    QList<Log *> m_logs;
+    std::unique_ptr<Results> m_results;
+    Experiment *m_next = nullptr;
+    Experiment *m_prev = nullptr;
+};
+
+/// Lets a unique_ptr to the first member own the whole chain.
+struct ChainDeleter {
+    void operator()(Experiment *first) const { first->deleteChain(); }
+};
+using ExperimentChain = std::unique_ptr<Experiment, ChainDeleter>;

@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/atdatetime.h"
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QJsonArray>
+#include <QJsonObject>
+#include <QString>
+#include <QVector>
+
+#include <algorithm>
+#include <memory>
+#include <variant>
+#include <vector>
+
+// A record of an instrument is described once, by a table of rows that name a member, its key and its place on the
+// wire. Parsing an answer, writing JSON and reading JSON all walk that table.
+
+/// How a text member stands on the wire, where that is not simply the text itself.
+enum class Form {
+    Plain,  ///< as sent, ISO 8859-1
+    Clock,  ///< whole seconds on the wire, kept as "hh:mm:ss"
+    Degree, ///< a letter on the wire, kept behind a degree sign: "°C"
+};
+
+constexpr int NotOnWire = 0; ///< header of a row that instruments do not send
+constexpr int InRecord = -1; ///< header of a row that stands in a logged record or a line of the experiment list
+
+/// A member that is a part of its own: an object or a list of objects, each described by its own table.
+template <class T> struct Nested {
+    virtual ~Nested() = default;
+    virtual QJsonValue toJson(const T &owner) const = 0;
+    virtual void fromJson(T &owner, const QJsonValue &value) const = 0;
+};
+
+template <class T> struct Field {
+    const char *key; ///< key in files and on the pages
+    int header;      ///< number of the header that carries it, or NotOnWire or InRecord
+    int piece;       ///< place in that header or record, from 0; a date takes this place and the next
+    std::variant<QString T::*, int T::*, double T::*, QDateTime T::*, std::shared_ptr<const Nested<T>>> member;
+    Form form = Form::Plain;
+};
+
+template <class T> using Fields = std::vector<Field<T>>;
+
+using Pieces = QVector<QByteArray>;
+
+/// The pieces of \a answer between its commas, without \a tag, line feeds and double quotes. Empty pieces count.
+Pieces pieces(const QByteArray &answer, const char *tag);
+
+/// Whole seconds as "hh:mm:ss"; hours grow as they need to ("100:00:00").
+QString clockText(int seconds);
+
+/// The text of \a piece as a member of form \a form keeps it.
+QString wireText(const QByteArray &piece, Form form);
+
+/// The date that stands in pieces \a at and \a at + 1.
+QDateTime wireDate(const Pieces &pieces, int at);
+
+template <class... Ts> struct Overloaded : Ts... {
+    using Ts::operator()...;
+};
+template <class... Ts> Overloaded(Ts...) -> Overloaded<Ts...>;
+
+/// Fills the members of \a record that \a header carries. A place that is not there reads as empty.
+template <class T> void readPieces(T &record, const Fields<T> &fields, int header, const Pieces &pieces, int offset = 0)
+{
+    for (const Field<T> &field : fields) {
+        if (field.header != header)
+            continue;
+        const int at = field.piece + offset;
+        std::visit(Overloaded{
+                       [&](QString T::*text) { record.*text = wireText(pieces.value(at), field.form); },
+                       [&](int T::*number) { record.*number = pieces.value(at).toInt(); },
+                       [&](double T::*number) { record.*number = pieces.value(at).toDouble(); },
+                       [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
+                       [](const std::shared_ptr<const Nested<T>> &) {},
+                   },
+                   field.member);
+    }
+}
+
+/// Reads header \a header: 0, or -1 with fewer than \a atLeast pieces or another number in front; nothing changes then.
+template <class T>
+[[nodiscard]] int parseHeader(T &record, const Fields<T> &fields, int header, const Pieces &pieces, int atLeast)
+{
+    if (pieces.size() < atLeast || pieces.first() != QByteArray::number(header))
+        return -1;
+    readPieces(record, fields, header, pieces);
+    return 0;
+}
+
+/// \a object with the members of \a record added under their keys.
+template <class T> QJsonObject writeJson(const T &record, const Fields<T> &fields, QJsonObject object = {})
+{
+    for (const Field<T> &field : fields) {
+        const auto value = std::visit(
+            Overloaded{
+                [&](QDateTime T::*date) { return QJsonValue(AtDateTime::toAtString(record.*date)); },
+                [&](const std::shared_ptr<const Nested<T>> &part) { return part->toJson(record); },
+                [&](auto member) { return QJsonValue(record.*member); },
+            },
+            field.member);
+        object.insert(QLatin1String(field.key), value);
+    }
+    return object;
+}
+
+/// Fills \a record from the members of \a object; a key that is missing gives its type's empty value.
+template <class T> void readJson(T &record, const Fields<T> &fields, const QJsonObject &object)
+{
+    for (const Field<T> &field : fields) {
+        const QJsonValue value = object.value(QLatin1String(field.key));
+        std::visit(Overloaded{
+                       [&](QString T::*text) { record.*text = value.toString(); },
+                       [&](int T::*number) { record.*number = value.toInt(); },
+                       [&](double T::*number) { record.*number = value.toDouble(); },
+                       [&](QDateTime T::*date) { record.*date = AtDateTime::fromAtString(value.toString()); },
+                       [&](const std::shared_ptr<const Nested<T>> &part) { part->fromJson(record, value); },
+                   },
+                   field.member);
+    }
+}
+
+/// A row's member that is one object of type \a P.
+template <class T, class P> std::shared_ptr<const Nested<T>> objectOf(P T::*member)
+{
+    struct Object final : Nested<T> {
+        explicit Object(P T::*m) : member(m) {}
+        QJsonValue toJson(const T &owner) const override { return writeJson(owner.*member, P::fields()); }
+        void fromJson(T &owner, const QJsonValue &value) const override
+        {
+            readJson(owner.*member, P::fields(), value.toObject());
+        }
+        P T::*member;
+    };
+    return std::make_shared<Object>(member);
+}
+
+/// A row's member that is a list of objects of type \a P, in order.
+template <class T, class P> std::shared_ptr<const Nested<T>> listOf(QVector<P> T::*member)
+{
+    struct List final : Nested<T> {
+        explicit List(QVector<P> T::*m) : member(m) {}
+        QJsonValue toJson(const T &owner) const override
+        {
+            QJsonArray array;
+            for (const P &part : owner.*member)
+                array.append(writeJson(part, P::fields()));
+            return array;
+        }
+        void fromJson(T &owner, const QJsonValue &value) const override
+        {
+            const QJsonArray array = value.toArray();
+            (owner.*member).clear();
+            (owner.*member).reserve(array.size());
+            for (const QJsonValue &element : array) {
+                P part;
+                readJson(part, P::fields(), element.toObject());
+                (owner.*member).append(part);
+            }
+        }
+        QVector<P> T::*member;
+    };
+    return std::make_shared<List>(member);
+}

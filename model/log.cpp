@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/log.h"
+
+void Log::setRegisterDate(const QDateTime &date)
+{
+    if (m_registerDate == date)
+        return;
+    m_registerDate = date;
+    emit logItemChanged();
+}
+
+int Log::parse(const QByteArray &)
+{
+    return 1;
+}
+
+QJsonObject Log::toJson() const
+{
+    return {};
+}
+
+void Log::fromJson(const QJsonObject &)
+{
+}

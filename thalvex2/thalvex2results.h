@@ -1,0 +1,67 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/results.h"
+
+/// The summary of one measurement, as the instrument computed it: extremes of the three temperatures, averages of the
+/// two WBGT values, times. Temperatures are in the unit of the measurement.
+class Thalvex2Results : public Results
+{
+    Q_OBJECT
+    Q_PROPERTY(double dry_T_Max READ dryTMax CONSTANT)
+    Q_PROPERTY(double dry_T_Min READ dryTMin CONSTANT)
+    Q_PROPERTY(double wet_T_Max READ wetTMax CONSTANT)
+    Q_PROPERTY(double wet_T_Min READ wetTMin CONSTANT)
+    Q_PROPERTY(double globe_T_Max READ globeTMax CONSTANT)
+    Q_PROPERTY(double globe_T_Min READ globeTMin CONSTANT)
+    Q_PROPERTY(double IBUTGi_T_Med READ IBUTGiMed CONSTANT)
+    Q_PROPERTY(double IBUTGe_T_Med READ IBUTGeMed CONSTANT)
+
+public:
+    double dryTMax() const { return m_dryTMax; }
+    double dryTMin() const { return m_dryTMin; }
+    double wetTMax() const { return m_wetTMax; }
+    double wetTMin() const { return m_wetTMin; }
+    double globeTMax() const { return m_globeTMax; }
+    double globeTMin() const { return m_globeTMin; }
+    double IBUTGiMed() const { return m_IBUTGiMed; }
+    double IBUTGeMed() const { return m_IBUTGeMed; }
+    /// "°C" or "°F".
+    QString unity() const { return m_unity; }
+    /// Seconds.
+    int sampleTime() const { return m_sampleTime; }
+    /// "hh:mm:ss".
+    QString duration() const { return m_duration; }
+    /// "hh:mm:ss".
+    QString pauseTime() const { return m_pauseTime; }
+    QDateTime startTime() const { return m_startTime; }
+    QDateTime stopTime() const { return m_stopTime; }
+
+    /// Interval, pause, duration and unit: at least 6 fields. 0, or -1 for an answer that is refused.
+    [[nodiscard]] int parseHeader1(const QByteArray &answer);
+    /// WBGT averages, start and stop: at least 8 fields.
+    [[nodiscard]] int parseHeader2(const QByteArray &answer);
+    /// Extremes: at least 8 fields.
+    [[nodiscard]] int parseHeader3(const QByteArray &answer);
+
+    QJsonObject toJson() const override;
+    void fromJson(const QJsonObject &object) override;
+
+private:
+    static const Fields<Thalvex2Results> &fields();
+
+    double m_dryTMax = 0;
+    double m_dryTMin = 0;
+    double m_wetTMax = 0;
+    double m_wetTMin = 0;
+    double m_globeTMax = 0;
+    double m_globeTMin = 0;
+    double m_IBUTGiMed = 0;
+    double m_IBUTGeMed = 0;
+    QString m_unity;
+    int m_sampleTime = 0;
+    QString m_duration;
+    QString m_pauseTime;
+    QDateTime m_startTime;
+    QDateTime m_stopTime;
+};
