@@ -82,6 +82,19 @@ template <class T> void readPieces(T &record, const Fields<T> &fields, int heade
     }
 }
 
+/// Reads up to \a most parts that stand one behind the other, each of \a length pieces, from piece \a start on. A part
+/// whose first piece is empty is absent, and so are those behind it.
+template <class P> QVector<P> readBlocks(int header, const Pieces &pieces, int start, int length, int most)
+{
+    QVector<P> parts;
+    for (int at = start; parts.size() < most && !pieces.value(at).isEmpty(); at += length) {
+        P part;
+        readPieces(part, P::fields(), header, pieces, at);
+        parts.append(part);
+    }
+    return parts;
+}
+
 /// Reads header \a header: 0, or -1 with fewer than \a atLeast pieces or another number in front; nothing changes then.
 template <class T>
 [[nodiscard]] int parseHeader(T &record, const Fields<T> &fields, int header, const Pieces &pieces, int atLeast)

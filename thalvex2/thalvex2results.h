@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/results.h"
+#include "model/heatstressresults.h"
 
 /// The summary of one measurement, as the instrument computed it: extremes of the three temperatures, averages of the
-/// two WBGT values, times. Temperatures are in the unit of the measurement.
-class Thalvex2Results : public Results
+/// two WBGT values. Temperatures are in the unit of the measurement.
+class Thalvex2Results : public HeatStressResults
 {
     Q_OBJECT
     Q_PROPERTY(double dry_T_Max READ dryTMax CONSTANT)
@@ -26,17 +26,6 @@ public:
     double globeTMin() const { return m_globeTMin; }
     double IBUTGiMed() const { return m_IBUTGiMed; }
     double IBUTGeMed() const { return m_IBUTGeMed; }
-    /// "°C" or "°F".
-    QString unity() const { return m_unity; }
-    /// Seconds.
-    int sampleTime() const { return m_sampleTime; }
-    /// "hh:mm:ss".
-    QString duration() const { return m_duration; }
-    /// "hh:mm:ss".
-    QString pauseTime() const { return m_pauseTime; }
-    QDateTime startTime() const { return m_startTime; }
-    QDateTime stopTime() const { return m_stopTime; }
-
     /// Interval, pause, duration and unit: at least 6 fields. 0, or -1 for an answer that is refused.
     [[nodiscard]] int parseHeader1(const QByteArray &answer);
     /// WBGT averages, start and stop: at least 8 fields.
@@ -58,10 +47,4 @@ private:
     double m_globeTMin = 0;
     double m_IBUTGiMed = 0;
     double m_IBUTGeMed = 0;
-    QString m_unity;
-    int m_sampleTime = 0;
-    QString m_duration;
-    QString m_pauseTime;
-    QDateTime m_startTime;
-    QDateTime m_stopTime;
 };

@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/experiment.h"
+#include "thalvex4/thalvex4.h"
+
+/// A measurement that the user gave a name on the instrument.
+class Thalvex4Experiment : public Experiment
+{
+    Q_OBJECT
+    Q_PROPERTY(QString exp_Name READ expName NOTIFY experimentNameChanged)
+
+public:
+    Thalvex4Experiment() : Experiment(Thalvex4::Name) {}
+
+    /// May be empty.
+    QString expName() const { return m_expName; }
+    void setExpName(const QString &name);
+
+    void copyFrom(const Experiment *other) override;
+    /// A list line: at least 6 fields, the last of which is the name.
+    [[nodiscard]] int parseHeader(const QByteArray &line) override;
+    QJsonObject toJson() const override;
+    void fromJson(const QJsonObject &body, const QString &product) override;
+
+signals:
+    void experimentNameChanged();
+
+private:
+    QString m_expName;
+};
