@@ -25,6 +25,7 @@ public:
         int delay = 0; ///< ms before the bytes
         QByteArray bytes;
         bool unplug = false; ///< after the bytes have reached the reader
+        int sent = 0;        ///< of the bytes, so far
     };
     using Steps = std::vector<Step>;
 

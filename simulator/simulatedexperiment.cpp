@@ -38,7 +38,7 @@ QVector<SimulatedExperiment> workingDays()
     return {
         {1, 60, "26/03/09,07:45:00-12", 0, 0, named("Teste")},
         {25, 60, "26/03/09,08:00:00-12", 0, 0, named("Forno n\xBA 2")},
-        {480, 60, "26/03/10,07:30:00-12", 240, 3600, named("Fundi\xE7\xE3o, turno da manh\xE3")},
+        {480, 60, "26/03/10,07:30:00-12", 240, 3600, named("Fundi\xE7\xE3o turno da manh\xE3")},
         {300, 90, "26/03/10,20:15:00-12", 0, 0, {}},
         {28800, 1, "26/03/11,08:00:00-12", 14400, 3600, named("Caldeira \xE0 lenha")},
     };

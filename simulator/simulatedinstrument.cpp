@@ -85,29 +85,30 @@ void SimulatedInstrument::proceed()
     while (!m_steps.empty() && !m_timer.isActive() && m_terminal.isOpen()) {
         Fault::Step &step = m_steps.front();
         const Fault *cut = nextCut();
-        const bool leaving = step.unplug && step.bytes.isEmpty();
+        const bool sent = step.sent == step.bytes.size();
+        const bool leaving = step.unplug && sent;
         if (step.delay > 0) {
             m_timer.start(step.delay);
         } else if (cut && m_bytesSent >= cut->byteLimit() && !leaving) {
             meetCut(*cut);
         } else if (leaving) {
             leaveWhenRead();
-        } else if (step.bytes.isEmpty()) {
+        } else if (sent) {
             m_steps.pop_front();
-        } else if (!send(step.bytes, cut)) {
+        } else if (!send(step, cut)) {
             return;
         }
     }
 }
 
-/// Takes from `bytes` what goes out now, up to the cut; false when the reader must take some first.
-bool SimulatedInstrument::send(QByteArray &bytes, const Fault *cut)
+/// Sends what is left of a step, up to the cut; false when the reader must take some first.
+bool SimulatedInstrument::send(Fault::Step &step, const Fault *cut)
 {
-    const qint64 allowed = cut ? cut->byteLimit() - m_bytesSent : bytes.size();
-    const int count = int(qMin(allowed, qint64(bytes.size())));
-    const int sent = m_terminal.write(bytes.constData(), count);
+    const int left = step.bytes.size() - step.sent;
+    const int count = cut ? int(qMin(cut->byteLimit() - m_bytesSent, qint64(left))) : left;
+    const int sent = m_terminal.write(step.bytes.constData() + step.sent, count);
     m_bytesSent += sent;
-    bytes.remove(0, sent);
+    step.sent += sent;
     return sent == count;
 }
 

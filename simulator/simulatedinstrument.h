@@ -56,7 +56,7 @@ private:
     void obey(const QByteArray &command);
     [[nodiscard]] Fault::Steps stepsFor(const QByteArray &command);
     void proceed();
-    [[nodiscard]] bool send(QByteArray &bytes, const Fault *cut);
+    [[nodiscard]] bool send(Fault::Step &step, const Fault *cut);
     void leaveWhenRead();
     void meetCut(const Fault &cut);
     [[nodiscard]] const Fault *nextCut() const;

@@ -58,8 +58,8 @@ private:
         QByteArray text = QByteArray::number(m_units - 1);
         for (int unit = 1; unit < m_units; ++unit) {
             const QByteArray number = QByteArray::number(unit);
-            text += ",\"" + serialNumber("TXE", m_seed * 10 + quint32(unit)) + "\",\"CAL-2025/20" + number + "\",\"25/1"
-                    + number + "/0" + number + "\",\"09:30:00-12\"";
+            text += ",\"" + serialNumber("TXE", m_seed * 10 + quint32(unit)) + "\",\"CAL-2025/20" + number
+                    + "\",\"25/11/2" + number + "\",\"09:30:00-12\"";
         }
         return text;
     }
