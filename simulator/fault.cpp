@@ -35,6 +35,8 @@ QByteArray shortened(QByteArray answer, int fieldsLost)
 
 } // namespace
 
+Fault::Fault() : Fault(Kind::Alters, [](const QByteArray &answer) { return Steps{{0, answer}}; }) { }
+
 Fault Fault::silence()
 {
     return {Kind::Silent, [](const QByteArray &) { return Steps(); }};

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QMetaType>
 
 #include <functional>
 #include <vector>
@@ -29,6 +30,7 @@ public:
     };
     using Steps = std::vector<Step>;
 
+    Fault(); ///< nothing goes wrong; for rows of test data
     static Fault silence();
     static Fault busy();
     static Fault error();
@@ -80,3 +82,5 @@ private:
     qint64 m_bytes = -1;
     int m_seen = 0;
 };
+
+Q_DECLARE_METATYPE(Fault)

@@ -11,7 +11,8 @@ class QSocketNotifier;
 
 /// The instrument's end of a serial cable: a pseudo-terminal in raw mode, driven by the event loop of whoever made it.
 /// It holds the computer's end open as well, so that readers may come and go; `hangUp` lets both go, and a reader then
-/// gets the error of a device that was pulled out.
+/// gets the error of a device that was pulled out: from QSerialPort ResourceError, or ReadError on every turn of the
+/// event loop, as the system's last failed call happens to be.
 class PseudoTerminal
 {
 public:

@@ -4,6 +4,7 @@
 #include "simulator/wiredate.h"
 
 #include <QByteArray>
+#include <QMetaType>
 #include <QString>
 #include <QVector>
 
@@ -28,6 +29,8 @@ struct SimulatedExperiment {
     [[nodiscard]] WireDate startDate() const;
     [[nodiscard]] WireDate stopDate() const;
 };
+
+Q_DECLARE_METATYPE(SimulatedExperiment)
 
 /// What an instrument has in its memory when nothing else is asked for: a single record, one of 25 (read as 10, 10
 /// and 5), a working day with its pause, a night shift over midnight, and eight hours at one second.
