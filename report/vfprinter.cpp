@@ -1,0 +1,451 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/vfprinter.h"
+
+#include "model/buildinfo.h"
+#include "model/experiment.h"
+#include "model/filename.h"
+#include "report/fonts.h"
+#include "report/pagecount.h"
+#include "report/rulepen.h"
+#include "report/vffullpagetable.h"
+#include "report/vfsubsuperscript.h"
+
+#include <QDesktopServices>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QLocale>
+#include <QPageLayout>
+#include <QPageSize>
+#include <QUrl>
+
+namespace {
+
+constexpr int textFlags = Qt::AlignLeft | Qt::TextWordWrap;
+constexpr int noteFlags = Qt::AlignJustify | Qt::TextWordWrap;
+constexpr int notesHeight = 100;
+constexpr int pixelsPerInch = 96;
+const QSize logoSize(100, 25);
+
+QString systemDate(const QDateTime &moment)
+{
+    return QLocale::system().toString(moment.date(), QLocale::ShortFormat);
+}
+
+} // namespace
+
+VfPrinter::VfPrinter()
+    : QPrinter(QPrinter::ScreenResolution), m_painter(new QPainter), m_smallFont(ReportFont::sans(6))
+{
+    setOutputFormat(QPrinter::PdfFormat);
+    setResolution(pixelsPerInch); // a display's own would make another page
+    setPageSize(QPageSize(QPageSize::A4));
+    setPageMargins(QMarginsF(30, 30, 20, 20), QPageLayout::Millimeter);
+    const QString folder = QString::fromLocal8Bit(qgetenv("TEMP"));
+    setOutputFile((folder.isEmpty() ? QStringLiteral("/tmp/") : folder) + QLatin1String("/temp.pdf"));
+    setCreator(QLatin1String("Suite Morvane ") + BuildInfo::revision());
+}
+
+VfPrinter::~VfPrinter() = default;
+
+void VfPrinter::setBodyFonts()
+{
+    m_logRowFont = ReportFont::mono(8);
+    m_logHeaderFont = ReportFont::mono(8);
+    m_sectionTitleFont = ReportFont::sans(10, QFont::Bold);
+    m_textFont = ReportFont::sans(10);
+    m_chartFont = ReportFont::sans(9);
+}
+
+// ---------------------------------------------------------------- file
+
+int VfPrinter::beginPainting()
+{
+    return m_painter->begin(this) ? 0 : -1;
+}
+
+int VfPrinter::endPainting()
+{
+    m_painter->end();
+    return 0;
+}
+
+void VfPrinter::setOutputFile(const QString &name)
+{
+    m_fileName = name.endsWith(QLatin1String(".pdf")) ? name : name + QLatin1String(".pdf");
+    setOutputFileName(m_fileName);
+}
+
+void VfPrinter::openResult()
+{
+    QDesktopServices::openUrl(QUrl::fromLocalFile(QFileInfo(m_fileName).absoluteFilePath()));
+}
+
+QString VfPrinter::csvFileName() const
+{
+    QString name = m_fileName;
+    name.replace(QLatin1String(".pdf"), QLatin1String(".csv"));
+    return name.endsWith(QLatin1String(".csv")) ? name : name + QLatin1String(".csv");
+}
+
+void VfPrinter::readParameters(const QString &json, const ReportParameters &parameters)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
+    if (!document.isObject())
+        return;
+    QString file;
+    ::readParameters(
+        {
+            {"fileName", &file},
+            {"ownCompany", &m_ownCompany},
+            {"collectorName", &m_collectorName},
+            {"repIdReg", &m_repIdReg},
+            {"repName", &m_repName},
+            {"cmpnyName", &m_cmpnyName},
+            {"siteName", &m_siteName},
+            {"ckbTable", &m_tableEnable},
+            {"ownCompanyInfoEnable", &m_ownCompanyInfoEnable},
+            {"collectorInfoEnable", &m_collectorInfoEnable},
+            {"repIdInfoEnable", &m_repIdInfoEnable},
+            {"repInfoEnable", &m_repInfoEnable},
+            {"cmpnyInfoEnable", &m_cmpnyInfoEnable},
+            {"siteInfoEnable", &m_siteInfoEnable},
+            {"logoEnable", &m_logoEnable},
+            {"logoFile", &m_logoFile},
+            {"obsEnable", &m_obsEnable},
+            {"obsText", &m_obsText},
+        },
+        document.object());
+    ::readParameters(parameters, document.object());
+    setOutputFile(pathFromUrl(file));
+}
+
+QString VfPrinter::formatNumber(double value, int integerDigits, int decimals)
+{
+    QString text = QLocale().toString(value, 'f', decimals);
+    const auto isDigit = [](QChar c) { return c.isDigit(); };
+    const auto first = std::find_if(text.begin(), text.end(), isDigit);
+    const int digits = int(std::find_if_not(first, text.end(), isDigit) - first);
+    if (first != text.end() && digits < integerDigits)
+        text.insert(int(first - text.begin()), QString(integerDigits - digits, QLocale().zeroDigit()));
+    return text;
+}
+
+// ---------------------------------------------------------------- page
+
+void VfPrinter::moveTo(int x, int y)
+{
+    m_painter->resetTransform();
+    m_painter->translate(x, y);
+}
+
+void VfPrinter::drawRule(int y)
+{
+    const QPen before = m_painter->pen();
+    moveTo(0, 0);
+    m_painter->setPen(rulePen());
+    m_painter->drawLine(0, y, windowWidth(), y);
+    m_painter->setPen(before);
+}
+
+void VfPrinter::measureFooter()
+{
+    m_painter->setFont(m_logRowFont);
+    const QRect text = m_painter->boundingRect(m_painter->window(), noteFlags, m_footerText);
+    m_footerHeight = text.height() + m_footerSpacing + 1;
+}
+
+QSize VfPrinter::drawLogo()
+{
+    if (!m_logoEnable)
+        return {0, 0};
+    if (m_logo.isNull()) // loaded once, for it stands on every page
+        m_logo = QPixmap(pathFromUrl(m_logoFile)).scaled(logoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    if (m_logo.isNull())
+        return {0, 0};
+    moveTo(0, 0);
+    m_painter->drawPixmap(0, 0, m_logo);
+    return m_logo.size() + QSize(5, 5);
+}
+
+int VfPrinter::drawPageHeader()
+{
+    const QSize logo = drawLogo();
+    QFont font = ReportFont::sans(9);
+    font.setItalic(true);
+    m_painter->setFont(font);
+    moveTo(logo.width(), 0);
+    const QString text = m_reportTitle + QLatin1String(" @ ") + m_productName + QLatin1String(" SN: ") + m_sn;
+    QRect drawn;
+    m_painter->drawText(QRect(0, 0, windowWidth() - logo.width(), windowHeight()), Qt::AlignHCenter | Qt::TextWordWrap,
+                        text, &drawn);
+    ++m_pageNumber;
+    m_contentTop = qMax(drawn.height(), logo.height());
+    drawRule(m_contentTop);
+    return m_contentTop + m_headerSpacing;
+}
+
+int VfPrinter::drawFooter()
+{
+    m_painter->setFont(ReportFont::sans(8));
+    const int height = m_painter->boundingRect(m_painter->window(), noteFlags, m_footerText).height();
+    if (m_footerPage == m_pageNumber) // a second drawing at the same place would only darken it
+        return height + m_footerSpacing;
+    m_footerPage = m_pageNumber;
+    drawRule(windowHeight() - height - m_footerSpacing);
+    moveTo(0, windowHeight() - height);
+    const QRect line(0, 0, windowWidth(), height);
+    m_painter->drawText(line, noteFlags, m_footerText);
+    const QString number = QStringLiteral("%1 ").arg(m_pageNumber) + tr("of") + QStringLiteral(" %1").arg(m_totalPages);
+    m_painter->drawText(line, Qt::AlignRight, number);
+    return height + m_footerSpacing;
+}
+
+int VfPrinter::newContentPage()
+{
+    m_footerHeight = drawFooter();
+    newPage();
+    m_contentTop = m_y = drawPageHeader();
+    return m_y;
+}
+
+// ---------------------------------------------------------------- body
+
+void VfPrinter::section(const QString &title, const Content &content)
+{
+    m_y += m_vSpace;
+    drawSectionTitle(title);
+    box(content);
+}
+
+void VfPrinter::box(const Content &content)
+{
+    const int top = m_y;
+    m_y += m_vSpace;
+    m_painter->setFont(m_textFont);
+    content();
+    m_y += m_vSpace;
+    drawBox(top, m_y);
+    m_sectionTop = m_y;
+    moveTo(0, m_y);
+    m_y += m_vSpace;
+}
+
+void VfPrinter::drawSectionTitle(const QString &text)
+{
+    moveTo(0, m_y);
+    m_y += m_vSpace;
+    m_painter->setFont(m_sectionTitleFont);
+    QRect drawn;
+    m_painter->drawText(QRect(0, 0, windowWidth(), windowHeight()), Qt::AlignHCenter, text, &drawn);
+    m_y += drawn.height() + m_vSpace;
+}
+
+void VfPrinter::drawBox(int top, int bottom)
+{
+    const QPen before = m_painter->pen();
+    moveTo(0, 0);
+    m_painter->setPen(rulePen());
+    m_painter->drawRect(0, top, windowWidth(), bottom - 1 - top);
+    m_painter->setPen(before);
+}
+
+void VfPrinter::drawTwoColumns(const QStringList &left, const QStringList &right)
+{
+    const int width = windowWidth() / 2 - 2 * m_hSpace;
+    m_y = qMax(drawColumn(left, m_hSpace, width), drawColumn(right, windowWidth() / 2 + m_hSpace, width));
+}
+
+int VfPrinter::drawColumn(const QStringList &texts, int x, int width)
+{
+    int y = m_y;
+    for (const QString &text : texts)
+        y += drawText(text, x, y, QRect(0, 0, width, windowHeight()));
+    return y;
+}
+
+void VfPrinter::drawColumns(const QStringList &texts, int count)
+{
+    const int step = (windowWidth() + 1 - 2 * m_hSpace) / count + m_hSpace;
+    int highest = 0;
+    for (int column = 0; column < texts.size(); ++column) {
+        const QRect bounds(0, 0, step - m_hSpace, windowHeight());
+        highest = qMax(highest, drawText(texts[column], m_hSpace + column * step, m_y, bounds));
+    }
+    m_y += highest;
+}
+
+int VfPrinter::drawText(const QString &text, int x, int y, const QRect &bounds)
+{
+    moveTo(x, y);
+    QRect drawn;
+    m_painter->drawText(bounds, textFlags, text, &drawn);
+    return drawn.height() + 1 + m_painter->fontMetrics().leading();
+}
+
+int VfPrinter::drawDate(const QDateTime &dateTime, int x, int y)
+{
+    return drawText(dateText(dateTime), x, y, QRect(0, 0, windowWidth() / 2 - 2 * m_hSpace, windowHeight()));
+}
+
+QString VfPrinter::dateText(const QDateTime &dateTime) const
+{
+    return tr("Date") + QLatin1String(": ") + systemDate(dateTime.toLocalTime());
+}
+
+int VfPrinter::drawCaptionedValue(const QString &caption, const QString &value, int x, int y, const QRect &bounds)
+{
+    const QFont before = m_painter->font();
+    QRect captionRect;
+    QRect valueRect;
+    moveTo(x, y);
+    m_painter->setFont(m_textFont);
+    const int leading = m_painter->fontMetrics().leading();
+    m_painter->drawText(bounds, textFlags, caption, &captionRect);
+    moveTo(x + 5, y + captionRect.height() + 2);
+    m_painter->setFont(m_smallFont);
+    m_painter->drawText(bounds, textFlags, value, &valueRect);
+    m_painter->setFont(before);
+    return captionRect.height() + valueRect.height() + 2 + leading;
+}
+
+// ---------------------------------------------------------------- sections
+
+void VfPrinter::drawIdentification()
+{
+    const auto captioned = [](bool on, const QString &caption, const QString &value) {
+        return on ? QStringList{caption + QLatin1String(": ") + value} : QStringList();
+    };
+    m_contentTop = m_y = drawPageHeader();
+    m_y += m_vSpace;
+    box([&] {
+        drawTwoColumns(captioned(m_cmpnyInfoEnable, tr("Company evaluated"), m_cmpnyName)
+                           + captioned(m_siteInfoEnable, tr("Site/Area"), m_siteName),
+                       captioned(m_ownCompanyInfoEnable, tr("Valuation company"), m_ownCompany)
+                           + captioned(m_collectorInfoEnable, tr("Collected by"), m_collectorName)
+                           + QStringList{dateText(m_experiment->dateTime())});
+    });
+}
+
+QString VfPrinter::calibrationText(const Calibration &calibration) const
+{
+    return tr("Cal. cert.") + QLatin1String(": ") + calibration.certification + QLatin1Char(' ')
+           + systemDate(calibration.date);
+}
+
+void VfPrinter::drawNotes()
+{
+    if (!m_obsEnable)
+        return;
+    m_y += m_vSpace;
+    drawSectionTitle(tr("Notes"));
+    const int top = m_y;
+    m_y += m_vSpace;
+    m_painter->setFont(m_textFont);
+    moveTo(m_hSpace, m_y);
+    const QRect width(0, 0, windowWidth() - 2 * m_hSpace, windowHeight());
+    if (m_painter->boundingRect(width, noteFlags, m_obsText).height() <= notesHeight)
+        m_painter->drawText(width, noteFlags, m_obsText);
+    m_y += notesHeight;
+    drawBox(top, m_y);
+    m_sectionTop = m_y;
+}
+
+void VfPrinter::drawSignature()
+{
+    m_y += 5 * m_vSpace;
+    if (!m_repInfoEnable && !m_repIdInfoEnable)
+        return;
+    QString text(41, QLatin1Char('_'));
+    if (m_repInfoEnable)
+        text += QLatin1String("\r\n") + m_repName;
+    if (m_repIdInfoEnable)
+        text += QLatin1String("\r\n") + tr("ID") + QLatin1String(": ") + m_repIdReg;
+    m_painter->setFont(m_textFont);
+    moveTo(windowWidth() / 2, m_y);
+    QRect drawn;
+    m_painter->drawText(QRect(0, 0, windowWidth() / 2, windowHeight()), Qt::AlignHCenter | Qt::TextWordWrap, text,
+                        &drawn);
+    m_y += drawn.height() + 2 * m_vSpace + 1;
+    m_sectionTop = m_y;
+}
+
+// ---------------------------------------------------------------- log table
+
+void VfPrinter::calculateTotalPages(bool withLogTable)
+{
+    m_totalPages = 0;
+    for (Experiment *member = m_experiment; member; member = member->next()) {
+        ++m_totalPages;
+        if (withLogTable)
+            m_totalPages += countTablePages(*std::unique_ptr<VfTable>(createLogTable(member)));
+    }
+}
+
+int VfPrinter::countTablePages(const VfTable &table)
+{
+    if (table.totalWidth() > windowWidth()) {
+        m_tableEnable = false;
+        return 0;
+    }
+    const PageCount::Measures measures{windowWidth(),      windowHeight(),       m_contentTop,     m_footerHeight,
+                                       table.totalWidth(), table.headerHeight(), table.rowHeight()};
+    return PageCount::tablePages(measures, table.rowCount(), table.dayCount());
+}
+
+QList<VfSubSuperScript *> VfPrinter::logTableHeader(Experiment *)
+{
+    return {};
+}
+
+QList<VfTableRow *> VfPrinter::logTableRows(Experiment *)
+{
+    return {};
+}
+
+VfTable *VfPrinter::createLogTable(Experiment *experiment)
+{
+    return makeLogTable(logTableRows(experiment), logTableHeader(experiment));
+}
+
+VfTable *VfPrinter::makeLogTable(const QList<VfTableRow *> &rows, const QList<VfSubSuperScript *> &header)
+{
+    auto *table = new VfFullPageTable(m_painter.get());
+    table->setRowFont(m_logRowFont);
+    table->setRows(rows); // before the heads, which need the columns
+    table->setHeaderFont(m_logHeaderFont);
+    table->setHeader(header);
+    return table;
+}
+
+void VfPrinter::drawLogTable(Experiment *experiment)
+{
+    drawLogTable(std::unique_ptr<VfTable>(createLogTable(experiment)));
+}
+
+void VfPrinter::drawLogTable(std::unique_ptr<VfTable> table)
+{
+    m_table = std::move(table);
+    m_table->setBottomMargin(m_footerHeight);
+    connect(m_table.get(), &VfTable::newPage, this, &VfPrinter::newTablePage);
+    connect(m_table.get(), &VfTable::finishPage, this, &VfPrinter::finishTablePage);
+    m_y = m_contentTop;
+    m_table->draw(0, m_contentTop);
+    m_footerHeight = drawFooter();
+    m_table.reset();
+}
+
+void VfPrinter::newTablePage()
+{
+    if (!m_table)
+        return;
+    newPage();
+    m_contentTop = m_y = drawPageHeader();
+    m_table->setNewPageDone(true);
+}
+
+void VfPrinter::finishTablePage()
+{
+    drawFooter();
+    m_table->setFinishPageDone(true);
+}
