@@ -142,7 +142,7 @@ private slots:
             row("ended before its pause", {10, 60, "26/03/10,07:30:00-12", 10, 3600});
             row("over the new year", {50, 7, "25/12/31,23:58:00+22"});
             row("in Fahrenheit", {300, 30, "26/03/10,12:00:00-12", 0, 0, {}, 'F'});
-            row("a day at one second", {86400, 1, "28/02/28,12:00:00+00"});
+            row("every second into a leap day", {7200, 1, "28/02/28,23:00:00+00"});
         }
     }
 
@@ -195,6 +195,8 @@ private slots:
         QVERIFY(read(3).size() > 500 * 60);
         QCOMPARE(read(3), read(3));
         QVERIFY(read(3) != read(4));
+        const SimulatedExperiment day{86400, 1, "28/02/28,12:00:00+00"};
+        QVERIFY(simulatedThalvex2(1, {day})->answer("AT+VFRDXP=1,86400,86400\r\n").contains("\"28/02/29\",\"11:59:59+00\""));
         // Fixed, so that a file stored beside the tests stays what the instrument sends.
         QCOMPARE(simulatedThalvex2(1)->answer("AT+VFRDXP=3,300,300\r\n"),
                  QByteArray("\r\n+VFRDXP: 3,300,0,\"26/03/10\",\"13:29:00-12\",24.4,31.5,41.5,29.5,28.5\r\n\r\nOK\r\n"));
