@@ -250,6 +250,11 @@ void VfPrinter::drawBox(int top, int bottom)
     m_painter->setPen(before);
 }
 
+void VfPrinter::drawLine(const QString &text)
+{
+    m_y = drawColumn({text}, m_hSpace, windowWidth() - 2 * m_hSpace);
+}
+
 void VfPrinter::drawTwoColumns(const QStringList &left, const QStringList &right)
 {
     const int width = windowWidth() / 2 - 2 * m_hSpace;
@@ -269,8 +274,9 @@ void VfPrinter::drawColumns(const QStringList &texts, int count)
     const int step = (windowWidth() + 1 - 2 * m_hSpace) / count + m_hSpace;
     int highest = 0;
     for (int column = 0; column < texts.size(); ++column) {
-        const QRect bounds(0, 0, step - m_hSpace, windowHeight());
-        highest = qMax(highest, drawText(texts[column], m_hSpace + column * step, m_y, bounds));
+        const int x = m_hSpace + column * step;
+        const QRect bounds(0, 0, qMin(step, windowWidth() - x) - m_hSpace, windowHeight());
+        highest = qMax(highest, drawText(texts[column], x, m_y, bounds));
     }
     m_y += highest;
 }

@@ -106,6 +106,8 @@ protected:
     void box(const Content &content);
     void drawSectionTitle(const QString &text);
     void drawBox(int top, int bottom);
+    /// A text over the whole width.
+    void drawLine(const QString &text);
     /// Lines from the cursor on, in two columns side by side; each entry is one text of one or more lines.
     void drawTwoColumns(const QStringList &left, const QStringList &right);
     /// Texts side by side in \a count columns of the same width, from the left.

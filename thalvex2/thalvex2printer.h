@@ -1,13 +1,31 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "report/vfprinter.h"
+#include "report/heatstressprinter.h"
 
-class Thalvex2Printer : public VfPrinter
+/// The report of one measurement: a page with its data, results, calibration and chart, then its log table, and a CSV
+/// file beside it.
+class Thalvex2Printer : public HeatStressPrinter
 {
     Q_OBJECT
 
 public:
-    int printReport() override { return -1; }
-    void setParameters(const QString &) override {}
+    Thalvex2Printer();
+
+    [[nodiscard]] int printReport() override;
+    void calculateTotalPages(bool withLogTable) override;
+    QList<VfTableRow *> logTableRows(Experiment *experiment) override;
+
+protected:
+    ReportParameters familyParameters() override;
+    QString sample(const Log &log, int unit, Quantity quantity) const override;
+
+private:
+    /// Extremes of the temperatures and averages of WBGT, as far as they are switched on.
+    void drawEvaluation();
+    void drawCalibration();
+    void writeCsv();
+
+    bool m_ckbMaxMin = false;
+    bool m_ckbAvg = false;
 };

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include <QFont>
+#include <QPointF>
+#include <QSizeF>
+#include <QString>
+#include <QVector>
+
+class QPainter;
+
+/// Values over time as smooth curves, on paper. Needs an application with widgets, but no window.
+class TimeChart
+{
+public:
+    explicit TimeChart(const QFont &font) : m_font(font) {}
+
+    void setTitle(const QString &title) { m_title = title; }
+    void setTimeTitle(const QString &title) { m_timeTitle = title; }
+    void setValueTitle(const QString &title) { m_valueTitle = title; }
+
+    /// Adds a curve of \a points (ms since the epoch, value). \a name may hold "<sub>".
+    void addCurve(const QString &name, const QVector<QPointF> &points);
+
+    /// Draws the chart, \a size wide and high, with its corner at (\a x, \a y) of the window. Returns its height.
+    int draw(QPainter *painter, int x, int y, const QSizeF &size, qreal scale) const;
+
+    /// Points that a curve is drawn with: those of \a points, or of many the lowest and the highest in each of
+    /// \a columns equal parts, in their order. The picture on paper stays the same.
+    static QVector<QPointF> reduced(const QVector<QPointF> &points, int columns);
+
+private:
+    struct Curve {
+        QString name;
+        QVector<QPointF> points;
+    };
+
+    QFont m_font;
+    QString m_title;
+    QString m_timeTitle;
+    QString m_valueTitle;
+    QVector<Curve> m_curves;
+    qreal m_lowest = 200; ///< of all points, also those that are not drawn
+    qreal m_highest = -200;
+    qreal m_begin = 0;
+    qreal m_end = 0;
+};
