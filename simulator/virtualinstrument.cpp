@@ -120,10 +120,11 @@ QByteArray VirtualInstrument::answer(const QByteArray &command)
     if (!lines)
         return "\r\nERROR\r\n";
     const QByteArray name = key.endsWith('?') || key.endsWith('=') ? key.mid(2, key.size() - 3) : key.mid(2);
+    const QByteArray start = "\r\n" + name + ": ";
     QByteArray framed;
     for (const QByteArray &line : *lines)
-        framed += "\r\n" + name + ": " + line + "\r\n";
-    return framed + "\r\nOK\r\n";
+        framed.append(start).append(line).append("\r\n"); // += of a sum would copy the whole each time
+    return framed.append("\r\nOK\r\n");
 }
 
 WireDate VirtualInstrument::clock() const

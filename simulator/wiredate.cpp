@@ -72,7 +72,6 @@ QByteArray WireDate::text() const
 
 QByteArray WireDate::fields() const
 {
-    QByteArray both = '"' + text() + '"';
-    both.replace(',', "\",\"");
-    return both;
+    const QByteArray both = text();
+    return '"' + both.left(8) + "\",\"" + both.mid(9) + '"';
 }
