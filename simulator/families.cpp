@@ -7,7 +7,9 @@ const QVector<SimulatedFamily> &families()
     static const QVector<SimulatedFamily> rows = {
         {"thalvex2", [](quint32 seed, int, const Memory &memory) { return simulatedThalvex2(seed, memory); }},
         {"thalvex4",
-         [](quint32 seed, int expansions, const Memory &memory) { return simulatedThalvex4(seed, expansions, memory); }},
+         [](quint32 seed, int expansions, const Memory &memory) {
+             return simulatedThalvex4(seed, expansions, memory);
+         }},
     };
     return rows;
 }

@@ -20,7 +20,8 @@
 
 struct SimulatedFamily {
     const char *name; ///< for a command line: "thalvex2"
-    std::unique_ptr<VirtualInstrument> (*make)(quint32 seed, int expansions, const QVector<SimulatedExperiment> &memory);
+    using Memory = QVector<SimulatedExperiment>;
+    std::unique_ptr<VirtualInstrument> (*make)(quint32 seed, int expansions, const Memory &memory);
 };
 
 /// All families, in the order in which a demo shows them.

@@ -12,7 +12,7 @@
 ///     instrument.fault(Fault::busy());                                            // from now on, always
 ///     instrument.fault(Fault::busy().on("AT+VFUNIT?\r\n"));                       // this command, each time
 ///     instrument.fault(Fault::error().on("AT+VFRDXP=").at(2));                    // the second request for records
-///     instrument.fault(Fault::split(17, 300).from(4));                            // the fourth command and all after it
+///     instrument.fault(Fault::split(17, 300).from(4));                            // the fourth command and all after
 ///     instrument.fault(Fault::unplugged().afterBytes(1234));                      // when 1234 bytes have been sent
 ///
 /// BUSY, ERROR, silence, garbage and a given answer come in place of the command's work: nothing is stored or erased.

@@ -48,8 +48,9 @@ int main(int argc, char *argv[])
                                  QStringLiteral("[family...]"));
     parser.process(application);
 
+    const int seconds = qMax(1, parser.value(interval).toInt());
     const QVector<SimulatedExperiment> memory =
-        parser.isSet(sizes) ? memoryOfSizes(parser.value(sizes), qMax(1, parser.value(interval).toInt())) : workingDays();
+        parser.isSet(sizes) ? memoryOfSizes(parser.value(sizes), seconds) : workingDays();
     std::vector<std::unique_ptr<SimulatedInstrument>> instruments;
     for (const SimulatedFamily &family : families()) {
         const QStringList wanted = parser.positionalArguments();

@@ -49,7 +49,8 @@ QByteArray closingFields(const SimulatedExperiment &experiment)
 {
     const qint64 used = 1 + experiment.duration() / 600;
     const int charge = 40 * experiment.index;
-    const QList<qint64> values = {4120 - experiment.index * 5, 4120 - experiment.index * 5 - used, charge, charge + used};
+    const int voltage = 4120 - 5 * experiment.index;
+    const QList<qint64> values = {voltage, voltage - used, charge, charge + used};
     QByteArray text;
     for (const qint64 value : values)
         text += QByteArray::number(value) + ',';

@@ -27,7 +27,10 @@ public:
     ~Reader() { ::close(m_file); }
     Q_DISABLE_COPY(Reader)
 
-    void send(const QByteArray &bytes) { QCOMPARE(::write(m_file, bytes.constData(), size_t(bytes.size())), bytes.size()); }
+    void send(const QByteArray &bytes)
+    {
+        QCOMPARE(::write(m_file, bytes.constData(), size_t(bytes.size())), bytes.size());
+    }
 
     /// Until an answer's end, an error or so long a silence.
     QByteArray read(int silence = silenceLimit)
