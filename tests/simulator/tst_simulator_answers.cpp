@@ -201,7 +201,8 @@ private slots:
         QVERIFY(last.contains("1,86400,0,\"28/02/29\",\"11:59:59+00\""));
         // Fixed, so that a file stored beside the tests stays what the instrument sends.
         QCOMPARE(simulatedThalvex2(1)->answer("AT+VFRDXP=3,300,300\r\n"),
-                 QByteArray("\r\n+VFRDXP: 3,300,0,\"26/03/10\",\"13:29:00-12\",24.4,31.5,41.5,29.5,28.5\r\n\r\nOK\r\n"));
+                 QByteArray("\r\n+VFRDXP: 3,300,0,\"26/03/10\",\"13:29:00-12\",24.4,31.5,41.5,29.5,28.5\r\n"
+                            "\r\nOK\r\n"));
     }
 
     void expansionsFillBlocks_data()

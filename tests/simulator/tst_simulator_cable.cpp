@@ -168,7 +168,8 @@ private slots:
         row("two pieces", Fault::split(7, 200).at(1), fine, 200);
         row("one byte at a time", Fault::pieces(1, 5).at(1), fine, 100);
         row("late", Fault::late(400).at(1), fine, 400);
-        row("gap above the limit", Fault::split(7, 650).at(1), {unitAnswer.left(7), unitAnswer.mid(7) + unitAnswer}, 500);
+        row("gap above the limit", Fault::split(7, 650).at(1),
+            {unitAnswer.left(7), unitAnswer.mid(7) + unitAnswer}, 500);
         row("wrong tag", Fault::wrongTag("+VFX").at(1), {"\r\n+VFX: \"C\"\r\n\r\nOK\r\n", unitAnswer});
         row("gone without a word", Fault::unplugged(), {""});
         row("gone the second time", Fault::unplugged(4).at(2), {unitAnswer, unitAnswer.left(4)});
