@@ -61,7 +61,7 @@ void VfFullPageTable::setRows(const QList<VfTableRow *> &rows)
 QSize VfFullPageTable::cellSize(const QString &text)
 {
     QSize &size = m_line.advance() > 0 && isPlain(text) ? m_sizeByLength[text.size()] : m_sizeByText[text];
-    if (size.isNull())
+    if (!size.isValid())
         size = m_painter->boundingRect(m_painter->window(), cellFlags, text).size();
     return size;
 }

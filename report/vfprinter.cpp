@@ -17,7 +17,9 @@
 #include <QLocale>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QTextOption>
 #include <QUrl>
+#include <QtMath>
 
 namespace {
 
@@ -26,6 +28,14 @@ constexpr int noteFlags = Qt::AlignJustify | Qt::TextWordWrap;
 constexpr int notesHeight = 100;
 constexpr int pixelsPerInch = 96;
 const QSize logoSize(100, 25);
+
+/// Wrapped between words, and within a word that is wider than its column.
+QTextOption wrapped(Qt::Alignment alignment)
+{
+    QTextOption option(alignment);
+    option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    return option;
+}
 
 QString systemDate(const QDateTime &moment)
 {
@@ -284,9 +294,9 @@ void VfPrinter::drawColumns(const QStringList &texts, int count)
 int VfPrinter::drawText(const QString &text, int x, int y, const QRect &bounds)
 {
     moveTo(x, y);
-    QRect drawn;
-    m_painter->drawText(bounds, textFlags, text, &drawn);
-    return drawn.height() + 1 + m_painter->fontMetrics().leading();
+    const QRectF drawn = m_painter->boundingRect(bounds, text, wrapped(Qt::AlignLeft));
+    m_painter->drawText(bounds, text, wrapped(Qt::AlignLeft));
+    return qCeil(drawn.height()) + 1 + m_painter->fontMetrics().leading();
 }
 
 int VfPrinter::drawDate(const QDateTime &dateTime, int x, int y)
@@ -350,8 +360,8 @@ void VfPrinter::drawNotes()
     m_painter->setFont(m_textFont);
     moveTo(m_hSpace, m_y);
     const QRect width(0, 0, windowWidth() - 2 * m_hSpace, windowHeight());
-    if (m_painter->boundingRect(width, noteFlags, m_obsText).height() <= notesHeight)
-        m_painter->drawText(width, noteFlags, m_obsText);
+    if (m_painter->boundingRect(width, m_obsText, wrapped(Qt::AlignJustify)).height() <= notesHeight)
+        m_painter->drawText(width, m_obsText, wrapped(Qt::AlignJustify));
     m_y += notesHeight;
     drawBox(top, m_y);
     m_sectionTop = m_y;

@@ -55,7 +55,7 @@ void Thalvex2Printer::calculateTotalPages(bool withLogTable)
 void Thalvex2Printer::drawEvaluation()
 {
     const auto &results = resultsOf<Thalvex2Results>(m_experiment);
-    const auto line = [](const QString &caption, double value) {
+    const auto line = [](const QString &caption, double value) -> QString {
         return QLatin1String("\r\n") + caption + QLatin1String(": ") + QLocale().toString(value, 'f', 2);
     };
     QStringList texts;
