@@ -82,7 +82,7 @@ QByteArray Interface::read()
 
 void Interface::serialErrorOcurred(QSerialPort::SerialPortError s)
 {
-    if (s == QSerialPort::ResourceError) {
+    if (s == QSerialPort::ResourceError || s == QSerialPort::ReadError) {
         // The instrument is gone. The port would say so again on every turn of the event loop and keep a core busy
         // for as long as nobody picks this instrument, so it is closed; its error() stays for who asks.
         disconnect(m_errorConnection);

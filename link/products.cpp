@@ -8,6 +8,13 @@
 #include "thalvex2/thalvex2log.h"
 #include "thalvex2/thalvex2printer.h"
 #include "thalvex2/thalvex2results.h"
+#include "thalvex4/thalvex4.h"
+#include "thalvex4/thalvex4config.h"
+#include "thalvex4/thalvex4experiment.h"
+#include "thalvex4/thalvex4file.h"
+#include "thalvex4/thalvex4log.h"
+#include "thalvex4/thalvex4printer.h"
+#include "thalvex4/thalvex4results.h"
 
 #include <algorithm>
 
@@ -40,6 +47,8 @@ Product product(const char *name, const char *ending, ExposureComponent *(*expos
 const Product products[] = {
     product<Thalvex2, Thalvex2Config, Thalvex2Experiment, Thalvex2File, Thalvex2Log, Thalvex2Printer, Thalvex2Results>(
         "THALVEX 2", ".tvx"),
+    product<Thalvex4, Thalvex4Config, Thalvex4Experiment, Thalvex4File, Thalvex4Log, Thalvex4Printer, Thalvex4Results>(
+        "THALVEX 4", ".tv4"),
 };
 
 template <class Predicate> const Product *productWhere(Predicate predicate)
