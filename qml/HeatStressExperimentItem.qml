@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "experiments.js" as Experiments
+
+/// An experiment of a heat-stress instrument; a family may put lines of its own in front.
+VfExperimentItem {
+    property var ownLines: []
+
+    function dateText(date) {
+        return isNaN(date) ? Experiments.absent : date.toLocaleString(Qt.locale(), Locale.LongFormat)
+    }
+
+    text: modelData.index + ":"
+    lines: ownLines.concat(qsTr("Date") + ": " + dateText(modelData.dateTime), qsTr("Size") + ": " + modelData.size)
+}

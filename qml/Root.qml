@@ -1,0 +1,131 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "."
+import "local.js" as Local
+import "../thalvex2/qml"
+import "../thalvex4/qml"
+
+/// The shell: all pages at once, of which the state shows one, and what all pages know of codes, numbers and dates.
+Rectangle {
+    readonly property int deviceDisconnected: -3
+    readonly property int deviceBusy: -2
+    readonly property int deviceError: -1
+    readonly property int deviceSuccessful: 0
+
+    readonly property int expEmptyList: -4
+    readonly property int expUniqueItem: -3
+    readonly property int expFirstItem: -2
+    readonly property int expLastItem: -1
+    readonly property int expMiddleItem: 0
+
+    property string lastState: "base state"
+
+    property alias pageHome: pageHome
+    property alias backButton: backButton
+    readonly property alias dialogs: dialogs
+
+    /// The page and the state of each product that can be connected.
+    readonly property var families: ({
+        "THALVEX 2": { page: pageThalvex2, state: "Thalvex2State" },
+        "THALVEX 4": { page: pageThalvex4, state: "Thalvex4State" }
+    })
+
+    function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
+    function convertDateTimeATToLocalTimeString(date) { return Local.dateTime(date) }
+    function leftPad(number, targetLength) { return Local.leftPad(number, targetLength) }
+
+    /// Shows page in state, from where its back button returns to the state before.
+    function enter(page, newState) {
+        if (state !== newState)
+            page.caller = state
+        state = newState
+    }
+
+    /// Shows the page of a connected product; one without a page changes nothing.
+    function enterFamily(product) {
+        if (product in families)
+            enter(families[product].page, families[product].state)
+    }
+
+    anchors.fill: parent
+    color: Theme.ground
+
+    states: [
+        PageState { name: "Thalvex2State"; page: pageThalvex2 },
+        PageState { name: "Thalvex2ResultsState"; page: pageThalvex2Results },
+        PageState { name: "Thalvex4State"; page: pageThalvex4 },
+        PageState { name: "Thalvex4ResultsState"; page: pageThalvex4Results }
+    ]
+
+    Rectangle {
+        id: boderLeft
+
+        anchors { left: parent.left; top: parent.top; bottom: parent.bottom }
+        width: 40
+        color: Theme.strip
+
+        MyImageButton {
+            id: backButton
+
+            property VfPage page: null
+
+            anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
+            visible: false
+            imgbtnpicdef: "/voltar1x.png"
+            imgbtnpichover: "/voltar1xhover.png"
+            imgbtnpicclicked: "/voltar1xclicked.png"
+            label: qsTr("Back")
+            onMyImgBtnClicked: root.state = page.caller
+        }
+    }
+
+    Item {
+        id: pages
+
+        anchors { left: boderLeft.right; right: parent.right; top: parent.top; bottom: parent.bottom }
+
+        PageHome { id: pageHome; anchors.fill: parent }
+        PageThalvex2 {
+            id: pageThalvex2
+            anchors.fill: parent
+            visible: false
+            onDownloadError: dialogs.downloadFailDialog.open()
+        }
+        PageThalvex2Results {
+            id: pageThalvex2Results
+            anchors.fill: parent
+            visible: false
+            onShowResults: root.enter(this, "Thalvex2ResultsState")
+        }
+        PageThalvex4 {
+            id: pageThalvex4
+            anchors.fill: parent
+            visible: false
+            onDownloadError: dialogs.downloadFailDialog.open()
+        }
+        PageThalvex4Results {
+            id: pageThalvex4Results
+            anchors.fill: parent
+            visible: false
+            onShowResults: root.enter(this, "Thalvex4ResultsState")
+        }
+
+        Image {
+            anchors { right: parent.right; top: parent.top; margins: Theme.gap * 2 }
+            source: "/morvane.png"
+            height: 40
+            fillMode: Image.PreserveAspectFit
+            mipmap: true
+            Accessible.role: Accessible.Graphic
+            Accessible.name: "Morvane"
+        }
+    }
+
+    VfDialogs { id: dialogs }
+
+    Connections {
+        target: core
+        function onDeviceDisconnected() { root.state = "base state" }
+        function onUnsupportedDevice() { dialogs.unsupportedDeviceDialog.open() }
+    }
+}

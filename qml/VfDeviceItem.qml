@@ -1,0 +1,33 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "."
+
+/// An instrument found by the scan.
+VfListItem {
+    id: item
+
+    property string productName
+    property string serialNumber
+    property string fwVersion
+
+    description: productName + ", " + qsTr("SN") + ": " + serialNumber + ", " + qsTr("Fw") + ": " + fwVersion
+
+    VfText {
+        width: 220
+        anchors.verticalCenter: parent.verticalCenter
+        color: item.textColor
+        elide: Text.ElideRight
+        font { pixelSize: Theme.largeSize - 2; bold: true }
+        text: item.productName
+        textFormat: Text.PlainText
+    }
+    Column {
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+
+        Repeater {
+            model: [qsTr("SN") + ": " + item.serialNumber, qsTr("Fw") + ": " + item.fwVersion]
+            VfText { text: modelData; color: item.textColor; textFormat: Text.PlainText }
+        }
+    }
+}

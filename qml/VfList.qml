@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import "."
+
+/// A list with a header. Up and Down move in it, Return and Space click.
+Item {
+    id: list
+
+    property alias headerlabel: header.text
+    property alias model: view.model
+    property alias delegate: view.delegate
+    property alias currentIndex: view.currentIndex
+    readonly property alias count: view.count
+    readonly property alias view: view
+    /// What stands in a list that has nothing to show.
+    property string emptyText
+
+    signal listClicked(int indexItem)
+
+    implicitWidth: 400
+    implicitHeight: 300
+
+    MyRec {
+        id: head
+
+        anchors { left: parent.left; right: parent.right; top: parent.top }
+        height: 36
+        color: Theme.quietGround
+
+        VfText {
+            id: header
+
+            anchors { left: parent.left; verticalCenter: parent.verticalCenter; leftMargin: Theme.spacing }
+            font.bold: true
+        }
+    }
+
+    MyRec {
+        anchors { left: parent.left; right: parent.right; top: head.bottom; bottom: parent.bottom; topMargin: -1 }
+
+        ListView {
+            id: view
+
+            signal clicked(int index)
+
+            anchors { fill: parent; margins: 1 }
+            activeFocusOnTab: true
+            boundsBehavior: Flickable.StopAtBounds
+            clip: true
+            currentIndex: -1
+            highlightMoveDuration: 0
+            onClicked: { forceActiveFocus(); list.listClicked(index) }
+            onModelChanged: currentIndex = -1
+            ScrollBar.vertical: ScrollBar {}
+            Keys.onReturnPressed: if (currentItem) currentItem.click()
+            Keys.onEnterPressed: if (currentItem) currentItem.click()
+            Keys.onSpacePressed: if (currentItem) currentItem.click()
+            Accessible.role: Accessible.List
+            Accessible.name: list.headerlabel
+        }
+
+        VfText {
+            anchors { fill: parent; margins: Theme.margin }
+            color: Theme.quietText
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            text: list.emptyText
+            visible: view.count === 0
+            wrapMode: Text.WordWrap
+        }
+    }
+
+    FocusFrame { shown: view.activeFocus }
+}

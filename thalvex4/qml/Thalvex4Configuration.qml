@@ -1,0 +1,9 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "../../qml"
+
+HeatStressConfiguration {
+    height: 320
+    productName: "THALVEX 4"
+    title: qsTr("Thalvex 4 - ") + qsTr("Configuration")
+}

@@ -1,0 +1,6 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import "../../qml"
+
+HeatStressExperimentItem {
+    ownLines: modelData.exp_Name === undefined ? [] : [modelData.exp_Name]
+}
