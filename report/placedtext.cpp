@@ -48,7 +48,7 @@ PlacedText::PlacedText(const QString &text, const QFont &font, QPainter *painter
         return;
     const QFont before = painter->font();
     painter->setFont(font);
-    m_size = painter->boundingRect(painter->window(), Qt::AlignLeft | Qt::TextWordWrap, text).size();
+    m_size = painter->boundingRect(QRectF(painter->window()), Qt::AlignLeft | Qt::TextWordWrap, text).size();
     painter->setFont(before);
 }
 

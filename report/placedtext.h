@@ -4,8 +4,9 @@
 #include <QFont>
 #include <QGlyphRun>
 #include <QRawFont>
-#include <QSize>
+#include <QSizeF>
 #include <QString>
+#include <QtMath>
 
 class QPainter;
 
@@ -41,14 +42,14 @@ public:
     PlacedText() = default;
     PlacedText(const QString &text, const QFont &font, QPainter *painter);
 
-    int width() const { return m_size.width(); }
-    int height() const { return m_size.height(); }
+    qreal width() const { return m_size.width(); }
+    int height() const { return qCeil(m_size.height()); }
     /// Draws the text with its left upper corner at the painter's origin.
     void draw(QPainter *painter) const;
 
 private:
     QString m_text;
     QFont m_font;
-    QSize m_size;
+    QSizeF m_size{0, 0};
     mutable GlyphLine m_line;
 };

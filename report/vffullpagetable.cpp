@@ -7,6 +7,7 @@
 
 #include <QLocale>
 #include <QPainter>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -61,8 +62,10 @@ void VfFullPageTable::setRows(const QList<VfTableRow *> &rows)
 QSize VfFullPageTable::cellSize(const QString &text)
 {
     QSize &size = m_line.advance() > 0 && isPlain(text) ? m_sizeByLength[text.size()] : m_sizeByText[text];
-    if (!size.isValid())
-        size = m_painter->boundingRect(m_painter->window(), cellFlags, text).size();
+    if (!size.isValid()) { // whole pixels: the margin holds the fraction, and a day's log still stands twice beside each other on a page
+        const QRectF bounds = m_painter->boundingRect(QRectF(m_painter->window()), cellFlags, text);
+        size = QSize(int(bounds.width()), qCeil(bounds.height()));
+    }
     return size;
 }
 

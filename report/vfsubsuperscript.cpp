@@ -54,12 +54,12 @@ void VfSubSuperScript::setFont(const QFont &font)
     m_placed.reset();
 }
 
-int VfSubSuperScript::width(QPainter *painter) const
+qreal VfSubSuperScript::lineWidth(QPainter *painter) const
 {
     if (m_text.isEmpty())
         return 0;
     const Placed &p = placed(painter);
-    return p.text.width() + p.indexWidth() + (m_next ? m_next->width(painter) : 0);
+    return p.text.width() + p.indexWidth() + (m_next ? m_next->lineWidth(painter) : 0);
 }
 
 int VfSubSuperScript::height(QPainter *painter) const
@@ -82,7 +82,7 @@ int VfSubSuperScript::draw(int left, int top, int right, int bottom, QPainter *p
     Q_UNUSED(bottom)
     if (m_text.isEmpty())
         return 0;
-    const int fullWidth = width(painter);
+    const qreal fullWidth = lineWidth(painter);
     const QTransform before = painter->transform();
     const QPen pen = painter->pen();
     if (m_color.isValid())
@@ -97,7 +97,7 @@ int VfSubSuperScript::draw(int left, int top, int right, int bottom, QPainter *p
         m_next->draw(0, 0, m_next->width(painter) - 1, m_next->height(painter) - 1, painter);
     }
     painter->setTransform(before);
-    return fullWidth;
+    return int(fullWidth);
 }
 
 int VfSubSuperScript::draw(QPainter *painter)

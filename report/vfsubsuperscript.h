@@ -49,8 +49,8 @@ public:
     int alignment() const { return m_alignment; }
     void setAlignment(int alignment) { m_alignment = alignment; }
 
-    /// Width of the piece and of all that follows it.
-    int width(QPainter *painter) const;
+    /// Width of the piece and of all that follows it, in whole pixels.
+    int width(QPainter *painter) const { return int(lineWidth(painter)); }
     /// Height of the tallest of the piece and those that follow it.
     int height(QPainter *painter) const;
 
@@ -68,9 +68,10 @@ private:
         PlacedText subscript;
         PlacedText superscript;
         int smallLine = 0; ///< height of a line of indexes
-        int indexWidth() const { return qMax(subscript.width(), superscript.width()); }
+        qreal indexWidth() const { return qMax(subscript.width(), superscript.width()); }
     };
     const Placed &placed(QPainter *painter) const;
+    qreal lineWidth(QPainter *painter) const;
     void drawPiece(QPainter *painter) const;
 
     QString m_text;
