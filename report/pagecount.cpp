@@ -20,6 +20,7 @@ int PageCount::blockInset(int windowWidth, int tableWidth)
 
 int PageCount::linesPerPage(const Measures &m)
 {
+    // One division for all blocks: of many narrow ones the sum may hold a line more than they do.
     const int height = m.windowHeight - m.contentTop - m.footerHeight - m.headerHeight;
     return std::max(height * blocks(m.windowWidth, m.tableWidth) / std::max(m.rowHeight, 1), 1);
 }

@@ -1,0 +1,449 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/fonts.h"
+#include "report/timechart.h"
+#include "tests/report/measurements.h"
+#include "tests/report/printedreport.h"
+#include "thalvex2/thalvex2experiment.h"
+#include "thalvex2/thalvex2printer.h"
+#include "thalvex4/thalvex4experiment.h"
+#include "thalvex4/thalvex4printer.h"
+
+#include <QRegularExpression>
+#include <QTest>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+using Measurements::Course;
+
+/// What the tests need to know of a family.
+struct Family {
+    const char *name;
+    const char *product;
+    ExperimentChain (*measure)(const Course &);
+    VfPrinter *(*makePrinter)();
+    QStringList own; ///< switches that only this family has
+};
+
+const Family &family(int index)
+{
+    static const Family families[] = {
+        {"Thalvex2", "THALVEX 2", Measurements::thalvex2, []() -> VfPrinter * { return new Thalvex2Printer; },
+         {"ckbMaxMin", "ckbAvg"}},
+        {"Thalvex4", "THALVEX 4", Measurements::thalvex4, []() -> VfPrinter * { return new Thalvex4Printer; },
+         {"ckbResults", "ckbWetTempResults", "ckbDryTempResults", "ckbGlobeTempResults", "ckbIBUTGiResults",
+          "ckbIBUTGeResults"}},
+    };
+    return families[index];
+}
+
+const QStringList tableKeys = {"ckbTable", "ckbWetTempTable", "ckbDryTempTable", "ckbGlobeTempTable", "ckbIBUTGiTable",
+                               "ckbIBUTGeTable"};
+const QStringList chartKeys = {"ckbChart", "ckbWetTempChart", "ckbDryTempChart", "ckbGlobeTempChart", "ckbIBUTGiChart",
+                               "ckbIBUTGeChart"};
+
+/// Prints \a experiment with the switches \a keys.
+struct Printed {
+    Printed(const Family &family, Experiment *experiment, const QStringList &keys, QJsonObject texts = {})
+        : printer(family.makePrinter()), report(prepared(family), experiment, withKeys(texts, keys))
+    {
+    }
+    std::unique_ptr<VfPrinter> printer;
+    PrintedReport report;
+
+private:
+    VfPrinter *prepared(const Family &family)
+    {
+        printer->setProductName(QLatin1String(family.product));
+        printer->setSn(QStringLiteral("SN-00123"));
+        printer->setCalibration({QDateTime(QDate(2019, 3, 4), QTime(10, 0)), QStringLiteral("CC-2019/77")});
+        return printer.get();
+    }
+    static QJsonObject withKeys(QJsonObject texts, const QStringList &keys)
+    {
+        for (const QString &key : keys)
+            texts.insert(key, true);
+        return texts;
+    }
+};
+
+QStringList simplified(const QString &text)
+{
+    QStringList lines = text.split(QLatin1Char('\n'));
+    for (QString &line : lines)
+        line = line.simplified();
+    return lines;
+}
+
+} // namespace
+
+class TestReportHeatStress : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { loadApplicationFonts(); }
+    void cleanup() { QLocale::setDefault(QLocale::system()); }
+
+    void switches_data();
+    void switches();
+    void pages_data();
+    void pages();
+    void wholeReport_data();
+    void wholeReport();
+    void headsOfTheTable_data();
+    void headsOfTheTable();
+    void tableOverMidnight();
+    void resultsSideBySide();
+    void decimalComma();
+    void csv_data();
+    void csv();
+    void csvThatCannotBeOpened();
+    void csvOfAChain();
+    void nothingMeasured_data();
+    void nothingMeasured();
+    void reducedCurve();
+    void keptPicture_data();
+    void keptPicture();
+};
+
+void TestReportHeatStress::switches_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<QStringList>("present");
+    QTest::addColumn<QStringList>("absent");
+
+    const QStringList optional = {"Evaluation results", "Calibration", "Chart", "Idx", "Notes", "Avg:", "Max:"};
+    const auto row = [](const char *name, int index, const QStringList &keys, const QStringList &present,
+                        const QStringList &absent) { QTest::newRow(name) << index << keys << present << absent; };
+    row("2: nothing", 0, {}, {"Experiment", "Start time: 09:37:01", "Duration: 01:00:00", "Pause time: 00:01:30"}, optional);
+    row("2: extremes", 0, {"ckbMaxMin"},
+        {"Evaluation results", "Dry temp [°C] Wet temp [°C] Globe temp [°C]", "Max: 31.33 Max: 25.31 Max: 37.35",
+         "Min: 24.74 Min: 18.72 Min: 30.76"},
+        {"Avg:", "WBGT"});
+    row("2: averages, with solar load first", 0, {"ckbAvg"},
+        {"Evaluation results", "WBGTo [°C] WBGTi [°C]", "Avg: 25.04 Avg: 25.64"}, {"Max:", "Dry temp"});
+    row("2: calibration", 0, {"ckbCalibration"}, {"Calibration", "Cal. cert.: CC-2019/77 4 Mar 2019"}, {"Chart"});
+    row("2: chart without curves", 0, {"ckbChart"}, {}, {"Chart"});
+    row("2: curve without a chart", 0, {"ckbDryTempChart"}, {}, {"Chart"});
+    row("2: chart", 0, {"ckbChart", "ckbDryTempChart"}, {"Chart", "Temperature x Time", "Time"}, {"WBGT"});
+    row("2: table without columns", 0, {"ckbTable"}, {"1 of 1"}, {"Idx"});
+    row("2: column without a table", 0, {"ckbDryTempTable"}, {"1 of 1"}, {"Idx"});
+    row("2: table of dry", 0, {"ckbTable", "ckbDryTempTable"}, {"001 09:37:01 28.1", "060 10:36:01"}, {"Calibration"});
+    row("2: table of wet", 0, {"ckbTable", "ckbWetTempTable"}, {"001 09:37:01 22.0"}, {"28.1"});
+    row("2: table of globe", 0, {"ckbTable", "ckbGlobeTempTable"}, {"001 09:37:01 34.2"}, {"28.1"});
+    row("2: table of WBGTi", 0, {"ckbTable", "ckbIBUTGiTable"}, {"001 09:37:01 25.7"}, {});
+    row("2: table of WBGTo", 0, {"ckbTable", "ckbIBUTGeTable"}, {"001 09:37:01 25.0"}, {});
+    const QStringList always = {"Evaluation results", "Instrument index Instrument Model WBGTi WBGTo", "1 THALVEX 4 05.64 25.04",
+                                "2 EXP. THALVEX 4 06.64 26.04", "THALVEX 4(SN-00123)", "EXP. THALVEX 4(E401)"};
+    row("4: nothing", 1, {}, always, {"Partial results", "Cal. cert.", "Chart", "Idx", "Max:"});
+    row("4: calibration", 1, {"ckbCalibration"},
+        always + QStringList{"Cal. cert.: CC-2019/77 4 Mar 2019", "Cal. cert.: CC-91 1 Mar 2019"}, {"Partial results"});
+    row("4: results without values", 1, {"ckbResults"}, always, {"Partial results"});
+    row("4: value without results", 1, {"ckbDryTempResults"}, always, {"Partial results"});
+    row("4: dry", 1, {"ckbResults", "ckbDryTempResults"},
+        {"Partial results", "Dry bulb [°C]", "Max: 31.33", "Min: 24.74", "Max: 32.33"}, {"Wet bulb", "Avg:"});
+    row("4: wet", 1, {"ckbResults", "ckbWetTempResults"}, {"Wet bulb [°C]", "Max: 25.31", "Min: 18.72"}, {"Dry bulb"});
+    row("4: globe", 1, {"ckbResults", "ckbGlobeTempResults"}, {"Globe [°C]", "Max: 37.35", "Min: 30.76"}, {"Dry bulb"});
+    row("4: WBGTi", 1, {"ckbResults", "ckbIBUTGiResults"}, {"WBGTi [°C]", "Avg: 05.64", "Avg: 06.64"}, {"Max:"});
+    row("4: WBGTo", 1, {"ckbResults", "ckbIBUTGeResults"}, {"WBGTo [°C]", "Avg: 25.04", "Avg: 26.04"}, {"Max:"});
+    row("4: table of wet", 1, {"ckbTable", "ckbWetTempTable"}, {"001 09:37:01 22.0", "001 09:37:01 22.5"}, {"28.1"});
+}
+
+void TestReportHeatStress::switches()
+{
+    QFETCH(int, index);
+    QFETCH(QStringList, keys);
+    QFETCH(QStringList, present);
+    QFETCH(QStringList, absent);
+    Course course;
+    course.expansions = index;
+    const ExperimentChain experiment = family(index).measure(course);
+    const Printed printed(family(index), experiment.get(), keys);
+    const QString text = simplified(printed.report.text()).join(QLatin1Char('\n'));
+    for (const QString &part : present)
+        QVERIFY2(text.contains(part), qPrintable(part + QLatin1String(" is not in:\n") + text));
+    for (const QString &part : absent)
+        QVERIFY2(!text.contains(part), qPrintable(part + QLatin1String(" is in:\n") + text));
+}
+
+void TestReportHeatStress::pages_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("expansions");
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<QStringList>("keys");
+    QTest::addColumn<int>("total");
+    const QStringList none;
+    QTest::newRow("2: no table") << 0 << 0 << 500 << none << 1;
+    QTest::newRow("2: no samples") << 0 << 0 << 0 << tableKeys << 1;
+    QTest::newRow("2: one sample") << 0 << 0 << 1 << tableKeys << 2;
+    QTest::newRow("2: a page of two blocks") << 0 << 0 << 104 << tableKeys << 2;
+    QTest::newRow("2: and one") << 0 << 0 << 105 << tableKeys << 3;
+    QTest::newRow("2: of six figures' width") << 0 << 0 << 12345 << tableKeys << 1 + 12345 / 104 + 1;
+    QTest::newRow("4: alone") << 1 << 0 << 60 << none << 2;
+    QTest::newRow("4: two expansions") << 1 << 2 << 60 << none << 4;
+    QTest::newRow("4: three, with tables") << 1 << 3 << 110 << tableKeys << 1 + 4 * (1 + 2);
+    QTest::newRow("4: no samples") << 1 << 1 << 0 << tableKeys << 3;
+}
+
+void TestReportHeatStress::pages()
+{
+    QFETCH(int, index);
+    QFETCH(int, expansions);
+    QFETCH(int, samples);
+    QFETCH(QStringList, keys);
+    Course course;
+    course.interval = 1;
+    course.samples = samples;
+    course.expansions = expansions;
+    const ExperimentChain experiment = family(index).measure(course);
+    const Printed printed(family(index), experiment.get(), keys);
+    QTEST(printed.printer->totalPages(), "total");
+    QTEST(printed.report.pages(), "total");
+    const int last = printed.report.pages();
+    QVERIFY(printed.report.text(last).contains(QStringLiteral("%1 of %1").arg(last)));
+    QVERIFY(printed.report.text(1).contains(QStringLiteral("1 of %1").arg(last)));
+}
+
+void TestReportHeatStress::wholeReport_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::newRow("2") << 0;
+    QTest::newRow("4") << 1;
+}
+
+void TestReportHeatStress::wholeReport()
+{
+    QFETCH(int, index);
+    Course course;
+    course.expansions = index;
+    const ExperimentChain experiment = family(index).measure(course);
+    const Printed printed(family(index), experiment.get(),
+                          tableKeys + chartKeys + family(index).own + QStringList{"ckbCalibration", "obsEnable"},
+                          {{QStringLiteral("obsText"), QStringLiteral("Medição junto ao forno")}});
+    QStringList fonts = printed.report.fonts();
+    for (const QString &font : qAsConst(fonts))
+        QVERIFY2(font.contains(QLatin1String("Free")) && font.endsWith(QLatin1String(" yes")), qPrintable(font));
+    QVERIFY(fonts.filter(QLatin1String("FreeMono")).size() == 1);
+    QVERIFY(printed.report.text().contains(QString::fromUtf8("Medição junto ao forno")));
+    for (int page = 1; page <= printed.report.pages(); ++page)
+        QCOMPARE(overlaps(printed.report.words(page)), QStringList());
+}
+
+void TestReportHeatStress::headsOfTheTable_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("subscript");
+    QTest::newRow("2: capital") << 0 << 2 << "Globe";
+    QTest::newRow("4: small") << 1 << 3 << "globe";
+}
+
+void TestReportHeatStress::headsOfTheTable()
+{
+    QFETCH(int, index);
+    QFETCH(int, page);
+    QFETCH(QString, subscript);
+    const ExperimentChain experiment = family(index).measure({});
+    const Printed printed(family(index), experiment.get(), tableKeys);
+    // a subscript may come as a word of its own or joined to its base; its box tells by the height
+    const QVector<PrintedReport::Word> words = printed.report.words(page);
+    const auto index_ = std::find_if(words.cbegin(), words.cend(), [&](const auto &w) { return w.text == subscript; });
+    QVERIFY2(index_ != words.cend(), qPrintable(printed.report.text(page)));
+    const QRectF first = printed.report.box(QStringLiteral("Idx"), page);
+    QVERIFY(index_->box.height() < first.height());
+    QVERIFY(index_->box.center().y() > first.center().y() + 1);
+    QVERIFY(index_->box.bottom() < printed.report.box(QStringLiteral("001"), page).top() + 2);
+    // columns stand where the heads do
+    const QRectF value = printed.report.box(QStringLiteral("34.2"), page);
+    QVERIFY(qAbs(value.center().x() - index_->box.center().x()) < 12);
+}
+
+void TestReportHeatStress::tableOverMidnight()
+{
+    Course course;
+    course.start = QDateTime(QDate(2019, 10, 9), QTime(23, 30), Qt::OffsetFromUTC, -3 * 3600);
+    course.samples = 104; // fills a page
+    const ExperimentChain experiment = Measurements::thalvex2(course);
+    const Printed printed(family(0), experiment.get(), tableKeys);
+    QCOMPARE(printed.printer->totalPages(), 3); // midnight counts as a line, and takes none
+    QCOMPARE(printed.report.pages(), 2);
+    const QString text = printed.report.text(2);
+    QVERIFY(text.contains(QLatin1String("23:59:00")) && text.contains(QLatin1String("00:00:00")));
+    QVERIFY(!text.contains(QLatin1String("2019")));
+}
+
+void TestReportHeatStress::resultsSideBySide()
+{
+    const ExperimentChain experiment = Measurements::thalvex2({});
+    const Printed both(family(0), experiment.get(), {"ckbMaxMin", "ckbAvg"});
+    const Printed averages(family(0), experiment.get(), {"ckbAvg"});
+    const double five = (604 + 1 - 6) / 5 + 3;
+    const double two = (604 + 1 - 6) / 2 + 3;
+    QVERIFY(qAbs(both.report.box(QStringLiteral("WBGTo")).left() - (3 + 3 * five)) < 2);
+    QVERIFY(qAbs(both.report.box(QStringLiteral("WBGTi")).left() - (3 + 4 * five)) < 2);
+    QVERIFY(qAbs(averages.report.box(QStringLiteral("WBGTo")).left() - 3) < 2);
+    QVERIFY(qAbs(averages.report.box(QStringLiteral("WBGTi")).left() - (3 + two)) < 2);
+
+    const ExperimentChain units = Measurements::thalvex4({});
+    const Printed packed(family(1), units.get(), {"ckbResults", "ckbIBUTGeResults"});
+    QVERIFY(qAbs(packed.report.box(QStringLiteral("WBGTo"), 2).left() - 3) < 2); // packed from the left
+}
+
+void TestReportHeatStress::decimalComma()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("pt_BR")));
+    const ExperimentChain experiment = Measurements::thalvex2({});
+    const Printed printed(family(0), experiment.get(), tableKeys + chartKeys + QStringList{"ckbMaxMin", "ckbCsv"});
+    const QString text = simplified(printed.report.text()).join(QLatin1Char('\n'));
+    QVERIFY(text.contains(QLatin1String("Max: 31,33 Max: 25,31 Max: 37,35")));
+    QVERIFY(text.contains(QLatin1String("001 09:37:01 28,1 22,0 34,2 25,7 25,0")));
+    QVERIFY(text.contains(QRegularExpression(QStringLiteral("^38,\\d"), QRegularExpression::MultilineOption))); // the axis
+    QVERIFY(printed.report.csv().contains("\r\n\"09:37:01\";\"28,1\";\"22,0\";\"34,2\";\"25,7\";\"25,0\"\r\n"));
+}
+
+void TestReportHeatStress::csv_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QByteArray>("bytes");
+    // heads in ISO 8859-1; wet and dry over each other's values, as readers of these files know it
+    QTest::newRow("2") << 0
+                       << QByteArray("\"Time\";\"Wet temp [\xB0"
+                                     "C]\";\"Dry temp [\xB0"
+                                     "C]\";\"Globe temp [\xB0"
+                                     "C]\";\"WBGTi [\xB0"
+                                     "C]\";\"WBGTo [\xB0"
+                                     "C]\";\r\n"
+                                     "\"09:37:01\";\"28.1\";\"22.0\";\"34.2\";\"25.7\";\"25.0\"\r\n"
+                                     "\"09:38:01\";\"27.9\";\"22.0\";\"33.8\";\"25.5\";\"25.0\"\r\n");
+    const QByteArray head = "\"Time\";\"Wet bulb [\xB0"
+                            "C]\";\"Dry bulb [\xB0"
+                            "C]\";\"Globe [\xB0"
+                            "C]\";\"WBGTi [\xB0"
+                            "C]\";\"WBGTo [\xB0"
+                            "C]\";\r\n";
+    const QByteArray rest = ";\"\";\"\";\"\";\"\";\"\";\r\n";
+    QTest::newRow("4") << 1
+                       << "\"Event 1\"" + rest + "\"Main\"" + rest + head
+                              + "\"09:37:01\";\"22.0\";\"28.1\";\"34.2\";\"25.7\";\"25.0\"\r\n"
+                                "\"09:38:01\";\"22.0\";\"27.9\";\"33.8\";\"25.5\";\"25.0\"\r\n"
+                              + "\"\"" + rest + "\"Expansion 1\"" + rest + head
+                              + "\"09:37:01\";\"22.5\";\"28.6\";\"34.7\";\"26.2\";\"25.5\"\r\n"
+                                "\"09:38:01\";\"22.5\";\"28.4\";\"34.3\";\"26.0\";\"25.5\"\r\n"
+                              + "\"\"" + rest;
+}
+
+void TestReportHeatStress::csv()
+{
+    QFETCH(int, index);
+    Course course;
+    course.samples = 2;
+    course.expansions = index;
+    const ExperimentChain experiment = family(index).measure(course);
+    const Printed printed(family(index), experiment.get(), {"ckbCsv"});
+    QTEST(printed.report.csv(), "bytes");
+    const Printed without(family(index), experiment.get(), {});
+    QCOMPARE(without.report.csv(), QByteArray());
+}
+
+void TestReportHeatStress::csvThatCannotBeOpened()
+{
+    QTemporaryDir folder;
+    QVERIFY(QDir(folder.path()).mkdir(QStringLiteral("r.csv"))); // a folder of that name
+    const ExperimentChain experiment = Measurements::thalvex2({});
+    const Printed printed(family(0), experiment.get(), {"ckbCsv"},
+                          {{QStringLiteral("fileName"), folder.filePath(QStringLiteral("r.pdf"))}});
+    QCOMPARE(printed.report.result(), 0);
+    QCOMPARE(printed.report.pages(), 1);
+}
+
+void TestReportHeatStress::csvOfAChain()
+{
+    Course course;
+    course.samples = 2;
+    course.expansions = 1;
+    ExperimentChain chain = Measurements::thalvex4(course);
+    chain->append(Measurements::thalvex4(course).release());
+    const Printed printed(family(1), chain.get(), {"ckbCsv"});
+    QStringList titles;
+    const QStringList lines = QString::fromLatin1(printed.report.csv()).split(QStringLiteral("\r\n"));
+    for (const QString &line : lines) {
+        if (line.endsWith(QLatin1String("\"\";")) && !line.startsWith(QLatin1String("\"\"")))
+            titles.append(line.section(QLatin1Char('"'), 1, 1));
+    }
+    QCOMPARE(titles, (QStringList{"Event 1", "Main", "Expansion 1", "Event 2", "Main", "Expansion 1"}));
+}
+
+void TestReportHeatStress::nothingMeasured_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<QByteArray>("text");
+    for (int index = 0; index < 2; ++index) {
+        for (const char *text : {"---", "nan", "inf", "1e999", "warm"})
+            QTest::addRow("%s: %s", family(index).name, text) << index << QByteArray(text);
+        QTest::addRow("%s: no samples and no results", family(index).name) << index << QByteArray();
+    }
+}
+
+void TestReportHeatStress::nothingMeasured()
+{
+    QFETCH(int, index);
+    QFETCH(QByteArray, text);
+    Course course;
+    course.samples = 3;
+    course.text = text;
+    ExperimentChain experiment = family(index).measure(course);
+    if (text.isEmpty())
+        experiment.reset(index == 0 ? static_cast<Experiment *>(new Thalvex2Experiment) : new Thalvex4Experiment);
+    const Printed printed(family(index), experiment.get(), tableKeys + chartKeys + family(index).own + QStringList{"ckbCsv"});
+    QCOMPARE(printed.report.result(), 0);
+    const QString page = simplified(printed.report.text()).join(QLatin1Char('\n'));
+    QCOMPARE(page.contains(QLatin1String("001 09:37:01 0.0 0.0 0.0 0.0 0.0")), !text.isEmpty());
+}
+
+void TestReportHeatStress::reducedCurve()
+{
+    QVector<QPointF> points;
+    for (int i = 0; i < 86400; ++i)
+        points.append({double(i), std::sin(i / 5000.0) + (i == 70001 ? 10 : 0)});
+    const QVector<QPointF> few = TimeChart::reduced(points, 2400);
+    QVERIFY(few.size() <= 4800);
+    QVERIFY(few.contains(points[70001])); // a single sample out of a day is seen
+    QVERIFY(std::is_sorted(few.cbegin(), few.cend(), [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); }));
+    QCOMPARE(TimeChart::reduced(points.mid(0, 4800), 2400).size(), 4800);
+}
+
+void TestReportHeatStress::keptPicture_data()
+{
+    QTest::addColumn<int>("index");
+    QTest::addColumn<int>("page");
+    QTest::addColumn<QString>("picture");
+    QTest::newRow("2: first page") << 0 << 1 << "report-thalvex2-1.png";
+    QTest::newRow("2: log table") << 0 << 2 << "report-thalvex2-2.png";
+    QTest::newRow("4: first page") << 1 << 1 << "report-thalvex4-1.png";
+    QTest::newRow("4: an expansion") << 1 << 4 << "report-thalvex4-4.png";
+}
+
+void TestReportHeatStress::keptPicture()
+{
+    QFETCH(int, index);
+    QFETCH(int, page);
+    QFETCH(QString, picture);
+    Course course;
+    course.expansions = index;
+    const ExperimentChain experiment = family(index).measure(course);
+    const Printed printed(family(index), experiment.get(),
+                          tableKeys + chartKeys + family(index).own
+                              + QStringList{"ckbCalibration", "obsEnable", "repInfoEnable", "cmpnyInfoEnable"},
+                          {{QStringLiteral("obsText"), QStringLiteral("Medição junto ao forno")},
+                           {QStringLiteral("repName"), QStringLiteral("José da Conceição")},
+                           {QStringLiteral("cmpnyName"), QStringLiteral("Fundição São João & Irmãos")}});
+    QVERIFY(differenceToKept(printed.report.image(page, 75), picture) <= 20);
+}
+
+QTEST_MAIN(TestReportHeatStress)
+#include "tst_report_heatstress.moc"
