@@ -53,5 +53,8 @@ int runSuite(int argc, char **argv, PortNames portNames)
     engine.rootContext()->setContextProperty(QStringLiteral("core"), &core);
     engine.load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     splash.close();
-    return QApplication::exec();
+    const int code = QApplication::exec();
+    // The pages go while the controller that they look at is still there.
+    qDeleteAll(engine.rootObjects());
+    return code;
 }

@@ -1,0 +1,309 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The suite as its user meets it: the real window, its buttons, lists and dialogs, and instruments on real ports.
+
+#include "app/core.h"
+#include "app/fonts.h"
+#include "simulator/families.h"
+#include "simulator/simulatedinstrument.h"
+
+#include <QApplication>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QtTest>
+
+namespace {
+
+using Matches = std::function<bool(const QQuickItem *)>;
+
+/// The first visible item at or below \a item that \a matches.
+QQuickItem *findItem(QQuickItem *item, const Matches &matches)
+{
+    if (!item->isVisible())
+        return nullptr;
+    if (matches(item))
+        return item;
+    const QList<QQuickItem *> children = item->childItems();
+    for (QQuickItem *child : children) {
+        if (QQuickItem *found = findItem(child, matches))
+            return found;
+    }
+    return nullptr;
+}
+
+QQuickItem *findInWindows(const Matches &matches)
+{
+    const QWindowList windows = QGuiApplication::allWindows();
+    for (QWindow *window : windows) {
+        const auto quick = qobject_cast<QQuickWindow *>(window);
+        QQuickItem *found = quick && quick->isVisible() ? findItem(quick->contentItem(), matches) : nullptr;
+        if (found)
+            return found;
+    }
+    return nullptr;
+}
+
+Matches has(const char *property, const QVariant &value)
+{
+    return [property, value](const QQuickItem *item) { return item->property(property) == value; };
+}
+
+template <class Widget> Widget *visibleWidget()
+{
+    const QWidgetList widgets = QApplication::topLevelWidgets();
+    for (QWidget *widget : widgets) {
+        const auto found = qobject_cast<Widget *>(widget);
+        if (found && found->isVisible())
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase() { QVERIFY(m_folder.isValid()); }
+    void init();
+    void cleanup();
+    void fromInstrumentToFileAndBack_data();
+    void fromInstrumentToFileAndBack();
+    void configureAndErase_data() { products(); }
+    void configureAndErase();
+    void unplugInMidDownload_data() { products(); }
+    void unplugInMidDownload();
+    void closeInMidDownload();
+    void refusesADamagedFile();
+
+private:
+    void products();
+    void click(QQuickItem *item);
+    void press(const QString &button);
+    void enter(const QString &product);
+    void chooseFile(const QString &path);
+    void answer(const QString &text, QMessageBox::StandardButton button);
+    QString state() const { return m_root->property("state").toString(); }
+    QQuickItem *experimentItem(int index) const;
+    SimulatedInstrument &instrument(const QString &product) { return *m_instruments[product == QLatin1String("THALVEX 4")]; }
+
+    QTemporaryDir m_folder;
+    std::vector<std::unique_ptr<SimulatedInstrument>> m_instruments;
+    std::unique_ptr<Core> m_core;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+    QQuickItem *m_root = nullptr;
+};
+
+void TestWindow::products()
+{
+    QTest::addColumn<QString>("product");
+    QTest::newRow("one unit") << QStringLiteral("THALVEX 2");
+    QTest::newRow("main unit and expansions") << QStringLiteral("THALVEX 4");
+}
+
+void TestWindow::init()
+{
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedThalvex2(1)));
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedThalvex4(2, 3)));
+    m_core = std::make_unique<Core>([this] {
+        return QStringList{m_instruments[0]->portName(), m_instruments[1]->portName()};
+    });
+    m_engine = std::make_unique<QQmlApplicationEngine>();
+    connect(m_engine.get(), &QQmlEngine::warnings, this, [](const QList<QQmlError> &warnings) {
+        for (const QQmlError &warning : warnings)
+            QTest::qFail(qPrintable(warning.toString()), __FILE__, __LINE__);
+    });
+    m_engine->rootContext()->setContextProperty(QStringLiteral("core"), m_core.get());
+    m_engine->load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    QCOMPARE(m_engine->rootObjects().size(), 1);
+    m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
+    QVERIFY(m_window);
+    m_window->showNormal();
+    m_window->resize(1300, 670);
+    QVERIFY(QTest::qWaitForWindowExposed(m_window));
+    m_root = findItem(m_window->contentItem(), has("expUniqueItem", -3));
+    QVERIFY(m_root);
+}
+
+void TestWindow::cleanup()
+{
+    qDeleteAll(m_engine->rootObjects());
+    m_engine.reset();
+    m_core.reset();
+    m_instruments.clear();
+}
+
+void TestWindow::click(QQuickItem *item)
+{
+    QVERIFY(item);
+    const QPointF center = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
+    QTest::mouseClick(item->window(), Qt::LeftButton, Qt::NoModifier, center.toPoint());
+}
+
+void TestWindow::press(const QString &button)
+{
+    QQuickItem *item = nullptr;
+    QTRY_VERIFY2((item = findInWindows(has("buttonLabel", button))), qPrintable(button));
+    click(item);
+}
+
+void TestWindow::enter(const QString &product)
+{
+    press(QStringLiteral("Find device"));
+    QQuickItem *item = nullptr;
+    QTRY_VERIFY((item = findInWindows(has("serialNumber", QString::fromLatin1(instrument(product).inside().identity().serialNumber)))));
+    click(item);
+    QTRY_VERIFY(experimentItem(1));
+}
+
+QQuickItem *TestWindow::experimentItem(int index) const
+{
+    return findInWindows([index](const QQuickItem *item) {
+        const QQmlContext *context = qmlContext(item);
+        const QObject *model = context ? context->contextProperty(QStringLiteral("modelData")).value<QObject *>() : nullptr;
+        return model && item->metaObject()->indexOfSignal("itemClicked()") >= 0 && model->property("index") == index;
+    });
+}
+
+void TestWindow::chooseFile(const QString &path)
+{
+    QFileDialog *dialog = nullptr;
+    QTRY_VERIFY((dialog = visibleWidget<QFileDialog>()));
+    const auto name = dialog->findChild<QLineEdit *>(QStringLiteral("fileNameEdit"));
+    QVERIFY(name);
+    name->setText(path);
+    QTest::keyClick(name, Qt::Key_Return);
+}
+
+void TestWindow::answer(const QString &text, QMessageBox::StandardButton button)
+{
+    QMessageBox *box = nullptr;
+    QTRY_VERIFY2((box = visibleWidget<QMessageBox>()) && box->text() == text, qPrintable(text));
+    QTest::mouseClick(box->button(button), Qt::LeftButton);
+}
+
+void TestWindow::fromInstrumentToFileAndBack_data()
+{
+    QTest::addColumn<QString>("product");
+    QTest::addColumn<QString>("fileName");
+    QTest::addColumn<QString>("instrumentState");
+    QTest::newRow("plain name") << QStringLiteral("THALVEX 2") << QStringLiteral("morning.tvx") << QStringLiteral("Thalvex2State");
+    QTest::newRow("blank, accent and signs")
+        << QStringLiteral("THALVEX 2") << QStringLiteral("fundição 100% #1 a+b.tvx") << QStringLiteral("Thalvex2State");
+    QTest::newRow("expansions") << QStringLiteral("THALVEX 4") << QStringLiteral("manhã.tv4") << QStringLiteral("Thalvex4State");
+}
+
+void TestWindow::fromInstrumentToFileAndBack()
+{
+    QFETCH(QString, product);
+    QFETCH(QString, fileName);
+    QFETCH(QString, instrumentState);
+    const QString resultsState = QString(instrumentState).replace(QLatin1String("State"), QLatin1String("ResultsState"));
+    const QString path = m_folder.filePath(fileName);
+
+    enter(product);
+    QCOMPARE(state(), instrumentState);
+    click(experimentItem(2));
+    chooseFile(path);
+    QTRY_COMPARE(state(), resultsState);
+    const QString downloaded = m_core->experiment();
+    QVERIFY2(QFileInfo::exists(path), qPrintable(path));
+
+    click(findInWindows(has("label", QStringLiteral("Back"))));
+    QTRY_COMPARE(state(), instrumentState);
+    click(findInWindows(has("label", QStringLiteral("Back"))));
+    QTRY_VERIFY(findInWindows(has("buttonLabel", QStringLiteral("Open file"))));
+
+    press(QStringLiteral("Open file"));
+    chooseFile(path);
+    QTRY_COMPARE(state(), resultsState);
+    QCOMPARE(m_core->experiment(), downloaded);
+    click(findInWindows(has("label", QStringLiteral("Back"))));
+    QTRY_VERIFY(findInWindows(has("buttonLabel", QStringLiteral("Open file"))));
+}
+
+void TestWindow::configureAndErase()
+{
+    QFETCH(QString, product);
+    enter(product);
+    VirtualInstrument &inside = instrument(product).inside();
+    press(QStringLiteral("Configure"));
+    click(findInWindows(has("text", QStringLiteral("°F"))));
+    press(QStringLiteral("Apply"));
+    answer(QStringLiteral("The changes have been applied."), QMessageBox::Ok);
+    QCOMPARE(inside.setting("VFUNIT"), QByteArray("\"F\""));
+
+    press(QStringLiteral("Erase memory"));
+    answer(QStringLiteral("ERASE MEMORY means that all experiment will be deleted. Continue?"), QMessageBox::No);
+    QTRY_VERIFY(!visibleWidget<QMessageBox>());
+    QVERIFY(!inside.memory().isEmpty());
+    press(QStringLiteral("Erase memory"));
+    answer(QStringLiteral("ERASE MEMORY means that all experiment will be deleted. Continue?"), QMessageBox::Yes);
+    answer(QStringLiteral("Memory have been erased."), QMessageBox::Ok);
+    QVERIFY(inside.memory().isEmpty());
+    QTRY_VERIFY(!experimentItem(1));
+}
+
+void TestWindow::unplugInMidDownload()
+{
+    QFETCH(QString, product);
+    enter(product);
+    instrument(product).fault(Fault::unplugged(100).on("AT+VFRDXP=").at(3));
+    click(experimentItem(3));
+    chooseFile(m_folder.filePath(QStringLiteral("lost")));
+    answer(QStringLiteral("Instrument disconnected."), QMessageBox::Ok);
+    QTRY_VERIFY(findInWindows(has("buttonLabel", QStringLiteral("Find device"))));
+    QVERIFY(m_core->experiment().isEmpty());
+    QVERIFY(QDir(m_folder.path()).entryList({QStringLiteral("lost*")}).isEmpty());
+}
+
+void TestWindow::closeInMidDownload()
+{
+    enter(QStringLiteral("THALVEX 2"));
+    m_instruments[0]->setDelay(20);
+    int shown = 0;
+    connect(m_core.get(), &Core::progressBarUpdated, this, [&](double progress) {
+        if (progress > 0 && ++shown == 1) {
+            m_window->close();
+            m_core->closePorts(); // as the program does when its last window closes
+        }
+    });
+    QElapsedTimer elapsed;
+    elapsed.start();
+    QCOMPARE(m_core->createExperiment(QStringLiteral("[4]")), -1);
+    QCOMPARE(shown, 1);
+    QVERIFY2(elapsed.elapsed() < 5000, "a download of a minute was not ended");
+}
+
+void TestWindow::refusesADamagedFile()
+{
+    const QString path = m_folder.filePath(QStringLiteral("damaged.tvx"));
+    QFile file(path);
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write("e30=\n00000000000000000000000000000000");
+    file.close();
+    press(QStringLiteral("Open file"));
+    chooseFile(path);
+    answer(QStringLiteral("The file is invalid. Maybe it was edited by another software."), QMessageBox::Ok);
+    QVERIFY(findInWindows(has("buttonLabel", QStringLiteral("Open file"))));
+}
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    loadApplicationFonts();
+    TestWindow test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_window.moc"
