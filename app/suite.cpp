@@ -14,6 +14,23 @@
 #include <QSplashScreen>
 #include <QTranslator>
 #include <QVBoxLayout>
+#include <QWindow>
+
+void loadMainWindow(QQmlApplicationEngine &engine, Core &core)
+{
+    engine.rootContext()->setContextProperty(QStringLiteral("core"), &core);
+    engine.load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    // Not the application's lastWindowClosed: that also tells of every message and file dialog that closes.
+    const QObjectList roots = engine.rootObjects();
+    for (QObject *root : roots) {
+        if (const auto window = qobject_cast<QWindow *>(root)) {
+            QObject::connect(window, &QWindow::visibleChanged, &core, [&core](bool visible) {
+                if (!visible)
+                    core.closePorts();
+            });
+        }
+    }
+}
 
 int runSuite(int argc, char **argv, PortNames portNames)
 {
@@ -45,13 +62,10 @@ int runSuite(int argc, char **argv, PortNames portNames)
 
     tell(QStringLiteral("Loading core..."));
     Core core(std::move(portNames));
-    // A download that is running when the window closes ends at once instead of holding the process.
-    QObject::connect(&application, &QGuiApplication::lastWindowClosed, &core, &Core::closePorts);
 
     tell(QStringLiteral("Starting models..."));
     QQmlApplicationEngine engine;
-    engine.rootContext()->setContextProperty(QStringLiteral("core"), &core);
-    engine.load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    loadMainWindow(engine, core);
     splash.close();
     const int code = QApplication::exec();
     // The pages go while the controller that they look at is still there.

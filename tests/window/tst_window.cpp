@@ -3,6 +3,7 @@
 
 #include "app/core.h"
 #include "app/fonts.h"
+#include "app/suite.h"
 #include "simulator/families.h"
 #include "simulator/simulatedinstrument.h"
 
@@ -122,8 +123,7 @@ void TestWindow::init()
         for (const QQmlError &warning : warnings)
             QTest::qFail(qPrintable(warning.toString()), __FILE__, __LINE__);
     });
-    m_engine->rootContext()->setContextProperty(QStringLiteral("core"), m_core.get());
-    m_engine->load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
+    loadMainWindow(*m_engine, *m_core);
     QCOMPARE(m_engine->rootObjects().size(), 1);
     m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().first());
     QVERIFY(m_window);
@@ -272,10 +272,8 @@ void TestWindow::closeInMidDownload()
     m_instruments[0]->setDelay(20);
     int shown = 0;
     connect(m_core.get(), &Core::progressBarUpdated, this, [&](double progress) {
-        if (progress > 0 && ++shown == 1) {
+        if (progress > 0 && ++shown == 1)
             m_window->close();
-            m_core->closePorts(); // as the program does when its last window closes
-        }
     });
     QElapsedTimer elapsed;
     elapsed.start();
