@@ -15,9 +15,6 @@ using namespace QtCharts;
 
 namespace {
 
-/// Four or five to a pixel of the plot: more can't be seen, not even in print.
-constexpr int columns = 2400;
-
 void addAxis(QChart *chart, QAbstractAxis *axis, Qt::Alignment side, const QString &title, const QFont &font)
 {
     axis->setTitleText(title);
@@ -41,7 +38,7 @@ void TimeChart::addCurve(const QString &name, const QVector<QPointF> &points)
         m_begin = points.first().x();
         m_end = points.last().x();
     }
-    m_curves.append({name, reduced(points, columns)});
+    m_curves.append({name, reduced(points, m_columns)});
 }
 
 QVector<QPointF> TimeChart::reduced(const QVector<QPointF> &points, int columns)

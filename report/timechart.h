@@ -19,6 +19,9 @@ public:
     void setTimeTitle(const QString &title) { m_timeTitle = title; }
     void setValueTitle(const QString &title) { m_valueTitle = title; }
 
+    /// Curves that are added from now on are drawn with at most twice \a columns points. The standard is two
+    /// columns to a pixel of the plot: the picture stays the same.
+    void setColumns(int columns) { m_columns = columns; }
     /// Adds a curve of \a points (ms since the epoch, value). \a name may hold "<sub>".
     void addCurve(const QString &name, const QVector<QPointF> &points);
 
@@ -39,6 +42,7 @@ private:
     QString m_title;
     QString m_timeTitle;
     QString m_valueTitle;
+    int m_columns = 1200;
     QVector<Curve> m_curves;
     qreal m_lowest = 200; ///< of all points, also those that are not drawn
     qreal m_highest = -200;

@@ -93,7 +93,7 @@ ExperimentChain Measurements::thalvex4(const Course &course)
     QByteArray averages = "+VFXPHDR: 3,1";
     QByteArray extremes = "+VFXPHDR: 4,1";
     for (int unit = 0; unit < units; ++unit) {
-        const auto number = [&](double value) { return ',' + QByteArray::number(value + unit, 'f', 2); };
+        const auto number = [&](double value) -> QByteArray { return ',' + QByteArray::number(value + unit, 'f', 2); };
         if (unit > 0)
             boards += ",E40" + QByteArray::number(unit) + ",CC-9" + QByteArray::number(unit) + ",19/03/0"
                       + QByteArray::number(unit) + ",10:00:00-12";
