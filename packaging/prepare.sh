@@ -20,12 +20,19 @@ install_missing() {
     [ -n "$missing" ] || return 0
     if [ "$(id -u)" -ne 0 ]; then
         as_root=sudo
-        command -v sudo >/dev/null || { say "Missing, and neither root nor sudo to install them: $missing"; return 1; }
+    fi
+    if ! command -v apt-get >/dev/null || { [ -n "$as_root" ] && ! command -v sudo >/dev/null; }; then
+        say "Missing, and no way to install them here: $missing"
+        say "Going on without: the build will say what it cannot do without."
+        return 0
     fi
     say "Installing: $missing"
+    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update || say "The list of packages could not be renewed."
     # unquoted on purpose: words
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq update || say "The list of packages could not be brought up to date."
-    $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends $missing >/dev/null
+    if ! $as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq install -y --no-install-recommends $missing >/dev/null; then
+        say "Could not be installed: $(missing_packages)"
+        say "Going on without: the build will say what it cannot do without."
+    fi
 }
 
 # build PRESET FOLDER [cmake argument...]
@@ -33,7 +40,10 @@ build() {
     local preset=$1 folder=$2
     shift 2
     say "Building $preset in $folder/"
-    (cd "$top" && cmake --preset "$preset" "$@" >"/tmp/morvane-cmake.$$" 2>&1 || { cat "/tmp/morvane-cmake.$$"; rm -f "/tmp/morvane-cmake.$$"; exit 1; }
-     rm -f "/tmp/morvane-cmake.$$"
-     cmake --build "$folder")
+    mkdir -p "$top/$folder"
+    if ! (cd "$top" && cmake --preset "$preset" "$@") >"$top/$folder/configure.log" 2>&1; then
+        cat "$top/$folder/configure.log"
+        return 1
+    fi
+    cmake --build "$top/$folder"
 }
