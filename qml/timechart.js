@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The arithmetic of the time charts: moments, the few points that a screen can show, and the way back to every record.
+.pragma library
+
+// A reader of the instruments' date texts ("21/03/05,14:30:00-12") that gives moments in ms, NaN for an unreadable text.
+// convert reads one text into a Date. The records of a day share its work: only the clock is read for each of them.
+function momentReader(convert) {
+    var day = "", midnight = NaN
+    return function (text) {
+        if (typeof text !== "string" || text.length !== 20)
+            return momentOf(convert(text))
+        var key = text.substring(0, 8) + text.substring(17)
+        if (key !== day) {
+            midnight = momentOf(convert(text.substring(0, 9) + "00:00:00" + text.substring(17)))
+            day = key
+        }
+        var hour = two(text, 9), minute = two(text, 12), second = two(text, 15)
+        var clock = hour < 24 && minute < 60 && second < 60 && text[11] === ":" && text[14] === ":"
+        return clock ? midnight + ((hour * 60 + minute) * 60 + second) * 1000 : NaN
+    }
+}
+
+// NaN for whatever is no date: an empty text converts to an empty text.
+function momentOf(date) {
+    return date && typeof date.getTime === "function" ? date.getTime() : NaN
+}
+
+function two(text, at) {
+    var tens = text.charCodeAt(at) - 48, ones = text.charCodeAt(at + 1) - 48
+    return tens >= 0 && tens <= 9 && ones >= 0 && ones <= 9 ? tens * 10 + ones : NaN
+}
+
+// A text as number; NaN for what is none. An empty or blank text would else read as 0.
+function number(text) {
+    var value = text === null ? NaN : Number(text)
+    return value === 0 && typeof text === "string" && text.indexOf("0") < 0 ? NaN : value
+}
+
+// Times and values of the records that have a time: {times, sorted, values: one array for each role}.
+// value(record, role) is the record's text. A value that is no number is NaN: it is not drawn and not pointed at.
+function readings(records, moment, roles, value) {
+    var times = [], sorted = true, values = roles.map(function () { return [] })
+    for (var i = 0; i < records.length; ++i) {
+        var time = moment(records[i].date)
+        if (isNaN(time))
+            continue
+        sorted = sorted && !(time < times[times.length - 1])
+        times.push(time)
+        for (var k = 0; k < roles.length; ++k)
+            values[k].push(number(value(records[i], roles[k])))
+    }
+    return { times: times, sorted: sorted, values: values }
+}
+
+// What to draw of a curve when the axis from..to has count columns: the lowest and the highest point of each column, in
+// their order, so at most two; all points when there are no more than that. Gives {x, y}; a NaN is left out.
+function columns(xs, ys, count, from, to) {
+    var drawn = { x: [], y: [] }
+    function draw(i) { drawn.x.push(xs[i]); drawn.y.push(ys[i]) }
+
+    var valid = 0, i
+    for (i = 0; i < xs.length; ++i)
+        valid += ys[i] === ys[i] ? 1 : 0
+    if (valid <= 2 * count) {
+        for (i = 0; i < xs.length; ++i)
+            if (ys[i] === ys[i])
+                draw(i)
+        return drawn
+    }
+
+    var low = [], high = [], perColumn = Math.max(to - from, 1) / count
+    for (i = 0; i < xs.length; ++i) {
+        var y = ys[i]
+        if (y !== y)
+            continue
+        var column = Math.max(0, Math.min(count - 1, Math.floor((xs[i] - from) / perColumn)))
+        if (low[column] === undefined) {
+            low[column] = high[column] = i
+        } else {
+            if (y < ys[low[column]]) low[column] = i
+            if (y > ys[high[column]]) high[column] = i
+        }
+    }
+    for (column = 0; column < count; ++column) {
+        if (low[column] === undefined)
+            continue
+        draw(Math.min(low[column], high[column]))
+        if (low[column] !== high[column])
+            draw(Math.max(low[column], high[column]))
+    }
+    return drawn
+}
+
+// The place of the record that is nearest in time, -1 when there is none.
+function nearest(times, sorted, time) {
+    if (!sorted)
+        return times.reduce(function (best, t, i) {
+            return best < 0 || Math.abs(t - time) < Math.abs(times[best] - time) ? i : best
+        }, -1)
+    var low = 0, high = times.length - 1
+    while (low < high) {
+        var middle = (low + high) >> 1
+        if (times[middle] < time) low = middle + 1
+        else high = middle
+    }
+    return low > 0 && time - times[low - 1] <= times[low] - time ? low - 1 : high
+}
+
+// Of several curves the one whose value at a record lies nearest, -1 when none has a number there.
+function nearestCurve(values, record, y) {
+    return values.reduce(function (best, curve, k) {
+        if (isNaN(curve[record]))
+            return best
+        return best < 0 || Math.abs(curve[record] - y) < Math.abs(values[best][record] - y) ? k : best
+    }, -1)
+}
+
+// The record by records further on a curve, over those without a number; at the ends the last that has one.
+function step(curve, record, by) {
+    var direction = by < 0 ? -1 : 1, found = record, left = Math.abs(by)
+    for (var i = record + direction; i >= 0 && i < curve.length && left > 0; i += direction) {
+        if (isNaN(curve[i]))
+            continue
+        found = i
+        --left
+    }
+    return found
+}
+
+// Lowest and highest number of some arrays, as {low, high}; both NaN when there is none.
+function extremes(values) {
+    var low = NaN, high = NaN
+    values.forEach(function (curve) {
+        for (var i = 0; i < curve.length; ++i) {
+            if (curve[i] < low || (isNaN(low) && curve[i] === curve[i])) low = curve[i]
+            if (curve[i] > high || (isNaN(high) && curve[i] === curve[i])) high = curve[i]
+        }
+    })
+    return { low: low, high: high }
+}
