@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import "."
+
+TabButton {
+    id: tab
+
+    implicitHeight: 34
+    Accessible.role: Accessible.PageTab
+    Accessible.name: text.replace(/<[^>]*>/g, "")
+
+    contentItem: VfText {
+        color: tab.checked ? Theme.textOnDark : Theme.text
+        horizontalAlignment: Text.AlignHCenter
+        text: tab.text
+        textFormat: Text.RichText
+        verticalAlignment: Text.AlignVCenter
+    }
+    background: Rectangle {
+        color: tab.checked ? Theme.button : tab.hovered ? Theme.line : "#e4e4e4"
+        Rectangle {
+            anchors { fill: parent; margins: 2 }
+            border { width: 2; color: Theme.accent }
+            color: "transparent"
+            visible: tab.visualFocus
+        }
+    }
+}
