@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtCharts 2.3
+import "../../qml"
+import "../../qml/timechart.js" as TimeChart
+
+/// The air velocity of a unit over time. It stands ready; no tab shows it.
+VfTimeChart {
+    /// experiment: the parsed one; reading: the unit's part of a record.
+    function populateSeries(experiment, reading) {
+        var data = read(experiment, ["airVelocity"], function (record, role) { return reading(record)[role] })
+        var range = TimeChart.extremes(data.values)
+        data.names = [qsTr("Air Velocity")]
+        data.low = range.low * 0.9
+        data.high = range.high * 1.1
+        show(data, (experiment.results || {}).sampleTime)
+    }
+
+    title: qsTr("Air Velocity x Time")
+    valueTitle: qsTr("Air Velocity") + " [m/s]"
+    valueSuffix: " m/s"
+    curve: Component { ScatterSeries { borderColor: "transparent"; markerSize: 6 } }
+}

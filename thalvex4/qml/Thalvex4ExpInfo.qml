@@ -1,0 +1,7 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "../../qml"
+
+HeatStressExpInfo {
+    ownLines: [{ label: qsTr("Experiment") + ":", value: experiment.expName }]
+}
