@@ -4,6 +4,17 @@
 #include "link/factories.h"
 #include "model/heatstressconfig.h"
 
+HeatStressDevice::HeatStressDevice(const QString &product)
+{
+    setProductName(product);
+    setConfig(FactoryDeviceConfig::create(product));
+}
+
+HeatStressDevice::HeatStressDevice(const Device &plain) : Device(plain)
+{
+    setConfig(FactoryDeviceConfig::create(productName()));
+}
+
 int HeatStressDevice::acquireUnit(HeatStressConfig *config)
 {
     const Reply reply = query("AT+VFUNIT?\r\n", "\r\n+VFUNIT: ");

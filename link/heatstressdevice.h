@@ -25,8 +25,8 @@ public:
     int serviceConfig() const { return m_serviceConfig; }
 
 protected:
-    HeatStressDevice() = default;
-    explicit HeatStressDevice(const Device &plain) : Device(plain) {}
+    explicit HeatStressDevice(const QString &product);
+    explicit HeatStressDevice(const Device &plain);
 
 private:
     int m_serviceConfig = 0;

@@ -11,8 +11,8 @@ class Thalvex2 : public HeatStressDevice
 public:
     static constexpr QLatin1String Name{"THALVEX 2"};
 
-    Thalvex2();
-    explicit Thalvex2(const Device &plain);
+    Thalvex2() : HeatStressDevice(Name) {}
+    explicit Thalvex2(const Device &plain) : HeatStressDevice(plain) {}
 
     /// Headers 1 to 3 and the closing record.
     Results *acquireResults(Experiment *exp) override;

@@ -1,19 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "thalvex4/thalvex4.h"
 
-#include "thalvex4/thalvex4config.h"
 #include "thalvex4/thalvex4results.h"
-
-Thalvex4::Thalvex4()
-{
-    setProductName(Name);
-    setConfig(new Thalvex4Config);
-}
-
-Thalvex4::Thalvex4(const Device &plain) : HeatStressDevice(plain)
-{
-    setConfig(new Thalvex4Config);
-}
 
 Results *Thalvex4::acquireResults(Experiment *exp)
 {

@@ -12,8 +12,8 @@ public:
     static constexpr QLatin1String Name{"THALVEX 4"};
     static constexpr int MaxExpansions = 3;
 
-    Thalvex4();
-    explicit Thalvex4(const Device &plain);
+    Thalvex4() : HeatStressDevice(Name) {}
+    explicit Thalvex4(const Device &plain) : HeatStressDevice(plain) {}
 
     /// Headers 1 to 4 and the closing record.
     Results *acquireResults(Experiment *exp) override;
