@@ -56,7 +56,7 @@ VfConfigurationWindow {
             fieldWidth: 90
             inputMask: "00:00"
             maximumLength: 5
-            field.Accessible.name: qsTr("Sample time")
+            description: qsTr("Sample time")
         }
     }
 }

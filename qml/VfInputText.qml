@@ -8,6 +8,8 @@ Row {
     id: input
 
     property string label
+    /// What the field is for, to those who cannot see it.
+    property string description: label
     property alias text: field.text
     property alias maximumLength: field.maximumLength
     property alias validator: field.validator
@@ -37,7 +39,7 @@ Row {
         selectedTextColor: Theme.textOnDark
         selectionColor: Theme.accent
         Accessible.role: Accessible.EditableText
-        Accessible.name: input.label
+        Accessible.name: input.description
         background: Rectangle {
             color: field.readOnly ? Theme.quietGround : Theme.ground
             border { width: field.activeFocus ? 2 : 1; color: field.activeFocus ? Theme.accent : Theme.fieldLine }
