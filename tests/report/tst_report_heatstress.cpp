@@ -104,6 +104,8 @@ private slots:
     void csvOfAChain();
     void nothingMeasured_data();
     void nothingMeasured();
+    void sampleTexts_data();
+    void sampleTexts();
     void reducedCurve();
     void keptPicture_data();
     void keptPicture();
@@ -403,6 +405,32 @@ void TestReportHeatStress::nothingMeasured()
     QCOMPARE(printed.report.result(), 0);
     const QString page = simplified(printed.report.text()).join(QLatin1Char('\n'));
     QCOMPARE(page.contains(QLatin1String("001 09:37:01 0.0 0.0 0.0 0.0 0.0")), !text.isEmpty());
+}
+
+void TestReportHeatStress::sampleTexts_data()
+{
+    QTest::addColumn<QByteArray>("sent");
+    QTest::addColumn<QByteArray>("written");
+    const std::pair<const char *, const char *> texts[] = {
+        {"25.3", "25.3"}, {"-5.3", "-5.3"},   {"25", "25.0"},  {".5", "0.5"},         {"5.", "5.0"},
+        {"-", "0.0"},     {"1e2", "100.0"},   {"+7.5", "7.5"}, {"2.5.1", "0.0"},      {"0.123456789", "0.1"},
+        {"-.5", "-0.5"},  {"- 5", "0.0"},     {"25.36", "25.4"}, {"25.30000000000000", "25.3"},
+    };
+    for (const auto &[sent, written] : texts)
+        QTest::newRow(sent) << QByteArray(sent) << QByteArray(written);
+}
+
+void TestReportHeatStress::sampleTexts()
+{
+    QFETCH(QByteArray, sent);
+    QFETCH(QByteArray, written);
+    Course course;
+    course.samples = 1;
+    course.text = sent;
+    const ExperimentChain experiment = Measurements::thalvex2(course);
+    const Printed printed(family(0), experiment.get(), {"ckbCsv"});
+    const QByteArray line = printed.report.csv().split('\n').value(1);
+    QCOMPARE(line, "\"09:37:01\"" + QByteArray(";\"" + written + '"').repeated(5) + '\r');
 }
 
 void TestReportHeatStress::reducedCurve()
