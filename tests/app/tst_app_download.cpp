@@ -1,0 +1,128 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// A whole download of a small experiment with everything that can happen to its bytes on the way.
+
+#include "tests/app/pluggedcore.h"
+
+#include <QProcess>
+#include <QtTest>
+
+#include <cstdio>
+
+namespace {
+
+std::unique_ptr<VirtualInstrument> small(bool larger)
+{
+    return larger ? simulatedThalvex4(1, 0, {{}}) : simulatedThalvex2(1, {{}});
+}
+
+/// The bytes that a download takes, counted from the plugging in: the first behind those of the session's beginning.
+std::pair<qint64, qint64> bytesOfDownload(bool larger)
+{
+    PluggedCore plugged(small(larger));
+    if (plugged.begin() != 0)
+        return {0, 0};
+    const qint64 first = plugged.instrument.bytesSent();
+    if (plugged.core.createExperiment("[0]") != 0)
+        return {0, 0};
+    return {first, plugged.instrument.bytesSent()};
+}
+
+/// What goes wrong when the plug is pulled behind byte `count` of the download's; empty when all is as it should be.
+QByteArray unpluggedBehind(qint64 count, bool larger)
+{
+    // The system gives a name away again while another process has yet to let go of the port that was pulled out.
+    std::vector<std::unique_ptr<PluggedCore>> tries;
+    do
+        tries.push_back(std::make_unique<PluggedCore>(small(larger)));
+    while (tries.back()->begin() != 0 && tries.size() < 100);
+    PluggedCore &plugged = *tries.back();
+    plugged.instrument.fault(Fault::unplugged().afterBytes(count));
+    const int code = plugged.core.createExperiment("[0]");
+    const QByteArrayList told = plugged.log.take();
+    if (code != DeviceDisconnected)
+        return "code " + QByteArray::number(code);
+    if (told != QByteArrayList{"deviceDisconnected", "devListUpdate", "experimentListUpdate"})
+        return "signals " + told.join(' ');
+    return plugged.core.experiment().isEmpty() && plugged.found() + plugged.listed() == 0 ? "" : "something is left";
+}
+
+/// Every `step`-th byte from `first` on, in a process of its own: each costs half a second of silence.
+int slice(const QStringList &arguments)
+{
+    const bool larger = arguments[0].toInt() != 0;
+    for (qint64 count = arguments[1].toLongLong(); count < arguments[2].toLongLong(); count += arguments[3].toInt()) {
+        const QByteArray fault = unpluggedBehind(count, larger);
+        std::printf("%lld %s\n", static_cast<long long>(count), fault.constData());
+    }
+    return 0;
+}
+
+} // namespace
+
+class TestAppDownload : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void splitAtEveryPosition_data()
+    {
+        QTest::addColumn<bool>("larger");
+        QTest::newRow("smaller meter") << false;
+        QTest::newRow("larger meter") << true;
+    }
+    void splitAtEveryPosition()
+    {
+        QFETCH(bool, larger);
+        PluggedCore plugged(larger ? simulatedThalvex4(1, 1) : simulatedThalvex2());
+        QCOMPARE(plugged.begin(), 0);
+        QCOMPARE(plugged.core.createExperiment("[0]"), 0);
+        const QString whole = plugged.core.experiment();
+        for (int position = 1; position < 200; ++position) {
+            plugged.instrument.clearFaults();
+            plugged.instrument.fault(Fault::split(position, 1));
+            QCOMPARE(plugged.core.createExperiment("[0]"), 0);
+            QCOMPARE(plugged.core.experiment(), whole);
+        }
+    }
+
+    void unpluggedBehindEachByte_data() { splitAtEveryPosition_data(); }
+    void unpluggedBehindEachByte()
+    {
+        QFETCH(bool, larger);
+        const auto [first, end] = bytesOfDownload(larger);
+        QVERIFY(end - first > 200);
+        constexpr int Slices = 24; // most of their time is silence, so that they share the processors well
+        std::vector<std::unique_ptr<QProcess>> processes;
+        for (int i = 0; i < Slices; ++i) {
+            processes.push_back(std::make_unique<QProcess>());
+            processes.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+            processes.back()->start(QCoreApplication::applicationFilePath(),
+                                    {"slice", QString::number(larger), QString::number(first + i), QString::number(end),
+                                     QString::number(Slices)});
+        }
+        QByteArrayList lines;
+        for (const auto &process : processes) {
+            QVERIFY(process->waitForFinished(300000));
+            QCOMPARE(process->exitStatus(), QProcess::NormalExit);
+            lines += process->readAllStandardOutput().trimmed().split('\n');
+        }
+        qint64 seen = 0;
+        for (const QByteArray &line : qAsConst(lines)) {
+            const QByteArrayList words = line.trimmed().split(' ');
+            QVERIFY2(words.size() == 1, line.constData());
+            seen += words.first().isEmpty() ? 0 : 1;
+        }
+        QCOMPARE(seen, end - first);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.value(1) == "slice")
+        return slice(arguments.mid(2));
+    TestAppDownload test;
+    return QTest::qExec(&test, argc, argv);
+}
+#include "tst_app_download.moc"
