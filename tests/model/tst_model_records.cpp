@@ -134,8 +134,9 @@ private slots:
         QTest::addColumn<Parse>("parser");
         QTest::addColumn<QByteArray>("answer");
         QTest::addColumn<QByteArray>("expected"); // empty: refused
-        const auto row = [](const char *name, MakeResults maker, Parse parser, const char *answer, const char *expected) {
-            QTest::newRow(name) << maker << parser << "+VFXPHDR: " + QByteArray(answer) << QByteArray(expected);
+        const auto row = [](const QByteArray &name, MakeResults maker, Parse parser, const char *answer,
+                            const char *expected) {
+            QTest::newRow(name.constData()) << maker << parser << "+VFXPHDR: " + QByteArray(answer) << QByteArray(expected);
         };
         using A = Thalvex2Results;
         using B = Thalvex4Results;
@@ -202,7 +203,7 @@ private slots:
                 return results.parseClosingRecord(answer);
             };
             const auto family = maker()->metaObject()->className();
-            const auto name = [&](const char *what) { return qPrintable(QString("%1: %2").arg(family, what)); };
+            const auto name = [&](const char *what) { return QByteArray(family) + ": " + what; };
             row(name("end"), maker, closing, "8,1,3900,3700,100,90,\"Stop key\"\n",
                 "{'vbatStart':3900,'vbatStop':3700,'coulombCounterStart':100,'coulombCounterStop':90,"
                 "'stopReason':'Stop key'}");
