@@ -1,0 +1,172 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Opening and saving a day at one second, and reading it for the pages: times of the processor as ratios to floors that
+// are measured in the same run. Each family is measured in a process of its own, with a time zone set and without.
+
+#include "app/core.h"
+#include "bench/rows.h"
+#include "link/factories.h"
+#include "model/experiment.h"
+#include "model/results.h"
+#include "simulator/families.h"
+
+#include <QCoreApplication>
+#include <QCryptographicHash>
+#include <QFile>
+#include <QJsonDocument>
+#include <QProcess>
+#include <QTemporaryDir>
+
+namespace {
+
+constexpr int Day = 86400;
+
+struct Subject {
+    const char *name;
+    const char *product;
+    const char *ending;
+    std::unique_ptr<VirtualInstrument> (*make)(const QVector<SimulatedExperiment> &memory);
+};
+
+const Subject subjects[] = {
+    {"THALVEX 2", "THALVEX 2", ".tvx",
+     [](const QVector<SimulatedExperiment> &memory) { return simulatedThalvex2(1, memory); }},
+    {"THALVEX 4, 3 expansions", "THALVEX 4", ".tv4",
+     [](const QVector<SimulatedExperiment> &memory) { return simulatedThalvex4(1, 3, memory); }},
+};
+
+QByteArray contentOf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        qFatal("%s cannot be read", qPrintable(path));
+    return file.readAll();
+}
+
+/// A file of \a records as a download would have left it.
+void makeFile(const Subject &subject, int records, const QString &path)
+{
+    SimulatedExperiment measured;
+    measured.size = records;
+    measured.interval = 1;
+    const std::unique_ptr<VirtualInstrument> instrument = subject.make({measured});
+    const QString product = QLatin1String(subject.product);
+    ExperimentChain experiment(FactoryExperiment::create(product));
+    QList<QByteArray> lines;
+    lines.reserve(records);
+    for (int record = 1; record <= records; ++record) {
+        const QByteArray number = QByteArray::number(record);
+        const QByteArray answer = instrument->answer("AT+VFRDXP=1," + number + ',' + number + "\r\n");
+        lines.append(answer.mid(2, answer.indexOf("\r\n", 2) - 2));
+    }
+    if (experiment->parseLogs(lines) != 0)
+        qFatal("a simulated record is refused");
+    experiment->setSize(records);
+    experiment->setResults(std::unique_ptr<Results>(FactoryResults::create(product)));
+    const std::unique_ptr<Device> device(FactoryDevice::create(product));
+    const std::unique_ptr<VfFile> file(FactoryFile::createForSave(product, path));
+    if (!file->save(VfFile::contentFor(device->toJson(), experiment.get())))
+        qFatal("%s cannot be written", qPrintable(path));
+}
+
+void measureTimes(const QString &name, const QString &path)
+{
+    constexpr int Repetitions = 5;
+    QJsonDocument document;
+    const double openFloor = median(Repetitions, [&] {
+        const QByteArray content = contentOf(path);
+        const QByteArray line = content.left(content.indexOf('\n'));
+        const QByteArray hash = QCryptographicHash::hash(line, QCryptographicHash::Md5).toHex();
+        if (!content.endsWith(hash))
+            qFatal("the file is damaged");
+        document = QJsonDocument::fromJson(QByteArray::fromBase64(line));
+    });
+    const QString copy = path + QLatin1String(".copy");
+    const double saveFloor = median(Repetitions, [&] {
+        const QByteArray line = document.toJson().toBase64();
+        QFile file(copy);
+        if (!file.open(QIODevice::WriteOnly))
+            qFatal("%s cannot be written", qPrintable(copy));
+        file.write(line + '\n' + QCryptographicHash::hash(line, QCryptographicHash::Md5).toHex());
+    });
+    const double textFloor = median(Repetitions, [&] { (void)document.toJson(QJsonDocument::Compact); });
+    document = {};
+
+    Core core;
+    row(name + QLatin1String(": open"), openFloor, median(Repetitions, [&] { core.parseFile(path); }), "ms", "<= 1.6");
+    const QString saved = path + QLatin1String(".saved") + path.right(4);
+    row(name + QLatin1String(": save"), saveFloor, median(Repetitions, [&] {
+            if (core.saveExperimentToFile(saved) != 0)
+                qFatal("%s cannot be written", qPrintable(saved));
+        }), "ms", "<= 2");
+    if (contentOf(saved) != contentOf(path))
+        qFatal("what was saved is not what was opened");
+
+    int size = 0;
+    const double first = median(1, [&] { size = core.experiment().size(); });
+    row(name + QLatin1String(": text for the pages, first read"), textFloor, first, "ms", "floor: compact toJson");
+    constexpr int Reads = 1000;
+    const double again = median(1, [&] {
+        for (int i = 0; i < Reads; ++i)
+            size += core.experiment().size();
+    });
+    row(name + QLatin1String(": text for the pages, read again"), first, again / Reads, "ms", "<= 0.01");
+}
+
+double residentMegabytes()
+{
+    const QByteArrayList fields = contentOf(QStringLiteral("/proc/self/status")).split('\n');
+    for (const QByteArray &field : fields) {
+        if (field.startsWith("VmRSS:"))
+            return field.mid(6).trimmed().split(' ').first().toDouble() / 1024;
+    }
+    return 0;
+}
+
+void measureMemory(const QString &name, const QString &path)
+{
+    const double text = static_cast<double>(contentOf(path).indexOf('\n')) * 3 / 4 / 1024 / 1024;
+    Core core;
+    const double before = residentMegabytes();
+    core.parseFile(path);
+    row(name + QLatin1String(": memory after opening, against the JSON text"), text, residentMegabytes() - before, "MB",
+        "<= 3");
+}
+
+int runChild(const QStringList &arguments, const QByteArray &zone)
+{
+    QProcess child;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(QStringLiteral("TZ"));
+    if (!zone.isEmpty())
+        environment.insert(QStringLiteral("TZ"), QString::fromLatin1(zone));
+    child.setProcessEnvironment(environment);
+    child.setProcessChannelMode(QProcess::ForwardedChannels);
+    child.start(QCoreApplication::applicationFilePath(), arguments);
+    child.waitForFinished(-1);
+    return child.exitCode();
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QCoreApplication application(argc, argv);
+    const QStringList arguments = application.arguments();
+    if (arguments.size() == 4) {
+        (arguments[1] == QLatin1String("times") ? measureTimes : measureMemory)(arguments[2], arguments[3]);
+        return 0;
+    }
+    const QTemporaryDir folder;
+    int failures = 0;
+    heading();
+    for (const Subject &subject : subjects) {
+        const QString path = folder.filePath(QLatin1String("day") + QLatin1String(subject.ending));
+        makeFile(subject, Day, path);
+        for (const char *zone : {"America/Sao_Paulo", ""}) {
+            const QString name = QLatin1String(subject.name) + QLatin1String(*zone ? "" : ", TZ not set");
+            failures += runChild({QStringLiteral("times"), name, path}, zone);
+        }
+        failures += runChild({QStringLiteral("memory"), QLatin1String(subject.name), path}, "America/Sao_Paulo");
+    }
+    return failures;
+}
