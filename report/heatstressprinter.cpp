@@ -62,18 +62,12 @@ void HeatStressPrinter::setParameters(const QString &json)
 {
     ReportParameters parameters = familyParameters();
     const ReportParameters shared = {
-        {"ckbWetTempTable", &m_ckbWetTempTable},
-        {"ckbDryTempTable", &m_ckbDryTempTable},
-        {"ckbGlobeTempTable", &m_ckbGlobeTempTable},
-        {"ckbIBUTGiTable", &m_ckbIBUTGiTable},
-        {"ckbIBUTGeTable", &m_ckbIBUTGeTable},
-        {"ckbChart", &m_ckbChart},
-        {"ckbWetTempChart", &m_ckbWetTempChart},
-        {"ckbDryTempChart", &m_ckbDryTempChart},
-        {"ckbGlobeTempChart", &m_ckbGlobeTempChart},
-        {"ckbIBUTGiChart", &m_ckbIBUTGiChart},
-        {"ckbIBUTGeChart", &m_ckbIBUTGeChart},
-        {"ckbCsv", &m_ckbCsv},
+        {"ckbWetTempTable", &m_ckbWetTempTable},     {"ckbDryTempTable", &m_ckbDryTempTable},
+        {"ckbGlobeTempTable", &m_ckbGlobeTempTable}, {"ckbIBUTGiTable", &m_ckbIBUTGiTable},
+        {"ckbIBUTGeTable", &m_ckbIBUTGeTable},       {"ckbChart", &m_ckbChart},
+        {"ckbWetTempChart", &m_ckbWetTempChart},     {"ckbDryTempChart", &m_ckbDryTempChart},
+        {"ckbGlobeTempChart", &m_ckbGlobeTempChart}, {"ckbIBUTGiChart", &m_ckbIBUTGiChart},
+        {"ckbIBUTGeChart", &m_ckbIBUTGeChart},       {"ckbCsv", &m_ckbCsv},
         {"ckbCalibration", &m_ckbCalibration},
     };
     parameters.insert(parameters.end(), shared.cbegin(), shared.cend());
@@ -120,14 +114,14 @@ QString HeatStressPrinter::numberText(const Log &log, int unit, Quantity quantit
 void HeatStressPrinter::drawExperiment()
 {
     const auto &results = resultsOf<HeatStressResults>(m_experiment);
-    const auto texts = [](const QString &caption, const QString &value, const QString &caption2, const QString &value2) {
+    const auto texts = [](const QString &caption, const QString &value, const QString &caption2,
+                          const QString &value2) {
         const QLatin1String colon(": ");
         return QStringList{caption + colon + value + QLatin1String("\r\n") + caption2 + colon + value2};
     };
     section(tr("Experiment"), [&] {
-        drawTwoColumns(
-            texts(tr("Start time"), localTime(results.startTime()), tr("Duration"), results.duration()),
-            texts(tr("Stop time"), localTime(results.stopTime()), tr("Pause time"), results.pauseTime()));
+        drawTwoColumns(texts(tr("Start time"), localTime(results.startTime()), tr("Duration"), results.duration()),
+                       texts(tr("Stop time"), localTime(results.stopTime()), tr("Pause time"), results.pauseTime()));
     });
 }
 
@@ -170,10 +164,11 @@ int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
 
 QList<VfSubSuperScript *> HeatStressPrinter::logTableHeader(Experiment *experiment)
 {
-    auto *unit = new VfSubSuperScript(QLatin1Char('[') + resultsOf<HeatStressResults>(experiment).unity()
-                                          + QLatin1Char(']'), {}, {});
+    auto *unit = new VfSubSuperScript(
+        QLatin1Char('[') + resultsOf<HeatStressResults>(experiment).unity() + QLatin1Char(']'), {}, {});
     const QString symbols[] = {tr("T"), tr("T"), tr("T"), tr("WBGT"), tr("WBGT")};
-    QList<VfSubSuperScript *> heads = {new VfSubSuperScript(tr("Idx"), {}, {}), new VfSubSuperScript(tr("D/T"), {}, {})};
+    QList<VfSubSuperScript *> heads = {new VfSubSuperScript(tr("Idx"), {}, {}),
+                                       new VfSubSuperScript(tr("D/T"), {}, {})};
     unit->setParent(heads.first()); // shared by the heads behind it
     const PerQuantity<bool> on = tableSwitches();
     for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {

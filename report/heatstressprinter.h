@@ -30,8 +30,8 @@ protected:
     struct Words {
         QString title;
         PerQuantity<QString> names;
-        PerQuantity<QString> subscripts;    ///< in the heads of the log table
-        PerQuantity<Quantity> csvValues;    ///< order of the values in a line of the CSV file
+        PerQuantity<QString> subscripts; ///< in the heads of the log table
+        PerQuantity<Quantity> csvValues; ///< order of the values in a line of the CSV file
     };
     explicit HeatStressPrinter(const Words &words);
 
@@ -60,7 +60,8 @@ protected:
     VfTable *createLogTable(Experiment *experiment, int unit);
     QList<VfTableRow *> logTableRowsOf(const Experiment *experiment, int unit) const;
 
-    /// Opens the CSV file and has \a lines written to it, when its switch is on. A file that can't be opened is left out.
+    /// Opens the CSV file and has \a lines written to it, when its switch is on. A file that can't be opened is left
+    /// out.
     void writeCsvFile(const std::function<void(QFile &)> &lines) const;
     /// The head and a line for each sample of \a unit.
     void writeCsvSamples(QFile &file, const Experiment *experiment, int unit) const;

@@ -19,8 +19,8 @@ constexpr int cellFlags = Qt::AlignCenter | Qt::TextWordWrap;
 bool isPlain(const QString &text)
 {
     return std::all_of(text.cbegin(), text.cend(), [](QChar c) {
-        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') || c == QLatin1Char(',')
-               || c == QLatin1Char(':');
+        return (c >= QLatin1Char('0') && c <= QLatin1Char('9')) || c == QLatin1Char('.') || c == QLatin1Char(',') ||
+               c == QLatin1Char(':');
     });
 }
 
@@ -62,7 +62,8 @@ void VfFullPageTable::setRows(const QList<VfTableRow *> &rows)
 QSize VfFullPageTable::cellSize(const QString &text)
 {
     QSize &size = m_line.advance() > 0 && isPlain(text) ? m_sizeByLength[text.size()] : m_sizeByText[text];
-    if (!size.isValid()) { // whole pixels: the margin holds the fraction, and a day's log still stands twice beside each other on a page
+    if (!size.isValid()) { // whole pixels: the margin holds the fraction, and a day's log still stands twice beside
+                           // each other on a page
         const QRectF bounds = m_painter->boundingRect(QRectF(m_painter->window()), cellFlags, text);
         size = QSize(int(bounds.width()), qCeil(bounds.height()));
     }

@@ -44,8 +44,7 @@ QString systemDate(const QDateTime &moment)
 
 } // namespace
 
-VfPrinter::VfPrinter()
-    : QPrinter(QPrinter::ScreenResolution), m_painter(new QPainter), m_smallFont(ReportFont::sans(6))
+VfPrinter::VfPrinter() : QPrinter(QPrinter::ScreenResolution), m_painter(new QPainter), m_smallFont(ReportFont::sans(6))
 {
     setOutputFormat(QPrinter::PdfFormat);
     setResolution(pixelsPerInch); // a display's own would make another page
@@ -335,18 +334,18 @@ void VfPrinter::drawIdentification()
     m_contentTop = m_y = drawPageHeader();
     m_y += m_vSpace;
     box([&] {
-        drawTwoColumns(captioned(m_cmpnyInfoEnable, tr("Company evaluated"), m_cmpnyName)
-                           + captioned(m_siteInfoEnable, tr("Site/Area"), m_siteName),
-                       captioned(m_ownCompanyInfoEnable, tr("Valuation company"), m_ownCompany)
-                           + captioned(m_collectorInfoEnable, tr("Collected by"), m_collectorName)
-                           + QStringList{dateText(m_experiment->dateTime())});
+        drawTwoColumns(captioned(m_cmpnyInfoEnable, tr("Company evaluated"), m_cmpnyName) +
+                           captioned(m_siteInfoEnable, tr("Site/Area"), m_siteName),
+                       captioned(m_ownCompanyInfoEnable, tr("Valuation company"), m_ownCompany) +
+                           captioned(m_collectorInfoEnable, tr("Collected by"), m_collectorName) +
+                           QStringList{dateText(m_experiment->dateTime())});
     });
 }
 
 QString VfPrinter::calibrationText(const Calibration &calibration) const
 {
-    return tr("Cal. cert.") + QLatin1String(": ") + calibration.certification + QLatin1Char(' ')
-           + systemDate(calibration.date);
+    return tr("Cal. cert.") + QLatin1String(": ") + calibration.certification + QLatin1Char(' ') +
+           systemDate(calibration.date);
 }
 
 void VfPrinter::drawNotes()

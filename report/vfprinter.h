@@ -71,7 +71,8 @@ public:
     /// Hands the file to the desktop's viewer.
     void openResult();
 
-    /// \a value in the style of the locale, with zeros in front until \a integerDigits digits stand before the decimals.
+    /// \a value in the style of the locale, with zeros in front until \a integerDigits digits stand before the
+    /// decimals.
     static QString formatNumber(double value, int integerDigits, int decimals);
 
     int pageNumber() const { return m_pageNumber; }
@@ -180,9 +181,9 @@ protected:
     int m_sectionTop = 0;    ///< cursor after the last closed box
     int m_pageNumber = 0;    ///< pages begun so far
     int m_totalPages = 0;
-    int m_contentTop = 0;    ///< where content starts, below the head
-    int m_footerHeight = 0;  ///< height kept free for the foot
-    int m_y = 0;             ///< the vertical cursor
+    int m_contentTop = 0;   ///< where content starts, below the head
+    int m_footerHeight = 0; ///< height kept free for the foot
+    int m_y = 0;            ///< the vertical cursor
     QFont m_logRowFont;
     QFont m_logHeaderFont;
     QFont m_sectionTitleFont;

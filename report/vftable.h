@@ -80,7 +80,7 @@ protected:
     QVector<VfTableRow> m_rows;
     QVector<int> m_columnWidths;
     int m_rowHeight = 0;
-    QStringList m_header;                   ///< heads as plain text
+    QStringList m_header;                    ///< heads as plain text
     QList<VfSubSuperScript *> m_headerItems; ///< heads with subscripts, children of the table
     int m_headerHeight = 0;
     int m_bottomMargin = 0;

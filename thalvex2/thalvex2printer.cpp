@@ -10,12 +10,12 @@
 
 Thalvex2Printer::Thalvex2Printer()
     : HeatStressPrinter({
-        tr("Thalvex 2 Report"),
-        {tr("Dry temp"), tr("Wet temp"), tr("Globe temp"), tr("WBGTi"), tr("WBGTo")},
-        {tr("Dry"), tr("Wet"), tr("Globe"), tr("i"), tr("o")},
-        // Dry before wet, under heads that say wet before dry: readers of these files know it so.
-        {Dry, Wet, Globe, Indoors, Outdoors},
-    })
+          tr("Thalvex 2 Report"),
+          {tr("Dry temp"), tr("Wet temp"), tr("Globe temp"), tr("WBGTi"), tr("WBGTo")},
+          {tr("Dry"), tr("Wet"), tr("Globe"), tr("i"), tr("o")},
+          // Dry before wet, under heads that say wet before dry: readers of these files know it so.
+          {Dry, Wet, Globe, Indoors, Outdoors},
+      })
 {
 }
 

@@ -30,11 +30,11 @@ QByteArray csvTitle(const QString &title)
 
 Thalvex4Printer::Thalvex4Printer()
     : HeatStressPrinter({
-        tr("Thalvex 4 Report"),
-        {tr("Dry bulb"), tr("Wet bulb"), tr("Globe"), tr("WBGTi"), tr("WBGTo")},
-        {tr("dry"), tr("wet"), tr("globe"), tr("i"), tr("o")},
-        {Wet, Dry, Globe, Indoors, Outdoors},
-    })
+          tr("Thalvex 4 Report"),
+          {tr("Dry bulb"), tr("Wet bulb"), tr("Globe"), tr("WBGTi"), tr("WBGTo")},
+          {tr("dry"), tr("wet"), tr("globe"), tr("i"), tr("o")},
+          {Wet, Dry, Globe, Indoors, Outdoors},
+      })
 {
 }
 
@@ -167,7 +167,8 @@ void Thalvex4Printer::writeCsv()
             file.write(csvTitle(tr("Event") + QLatin1Char(' ') + QString::number(member->ordinal())));
             const int expansions = resultsOf<Thalvex4Results>(member).numberOfExpansions();
             for (int unit = 0; unit <= expansions; ++unit) {
-                file.write(csvTitle(unit == 0 ? tr("Main") : tr("Expansion") + QLatin1Char(' ') + QString::number(unit)));
+                file.write(
+                    csvTitle(unit == 0 ? tr("Main") : tr("Expansion") + QLatin1Char(' ') + QString::number(unit)));
                 writeCsvSamples(file, member, unit);
                 file.write(csvTitle(QString()));
             }

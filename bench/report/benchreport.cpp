@@ -68,10 +68,10 @@ ExperimentChain measurement(ExperimentChain (*measure)(const Measurements::Cours
     return measure(course);
 }
 
-const char *const table[] = {"ckbTable", "ckbDryTempTable", "ckbWetTempTable", "ckbGlobeTempTable", "ckbIBUTGiTable",
-                             "ckbIBUTGeTable"};
-const char *const chart[] = {"ckbChart", "ckbDryTempChart", "ckbWetTempChart", "ckbGlobeTempChart", "ckbIBUTGiChart",
-                             "ckbIBUTGeChart"};
+const char *const table[] = {"ckbTable",          "ckbDryTempTable", "ckbWetTempTable",
+                             "ckbGlobeTempTable", "ckbIBUTGiTable",  "ckbIBUTGeTable"};
+const char *const chart[] = {"ckbChart",          "ckbDryTempChart", "ckbWetTempChart",
+                             "ckbGlobeTempChart", "ckbIBUTGiChart",  "ckbIBUTGeChart"};
 
 template <class Keys> QJsonObject on(const Keys &keys)
 {
@@ -159,7 +159,8 @@ void benchChart(const QString &path)
     const ExperimentChain many = measurement(Measurements::thalvex2, day);
     const double floor = median(9, [&] { print<Thalvex2Printer>(few.get(), on(chart), path); });
     const double measured = median(5, [&] { print<Thalvex2Printer>(many.get(), on(chart), path); });
-    row(QStringLiteral("report with a chart of 5 curves, 86,400 samples"), floor, measured, "ms", "<= 4 (floor: 1,000)");
+    row(QStringLiteral("report with a chart of 5 curves, 86,400 samples"), floor, measured, "ms",
+        "<= 4 (floor: 1,000)");
     std::printf("%-52s | %11s | %8.2f MB | %6s | <= 1 MB\n", "its file", "", double(QFileInfo(path).size()) / 1e6, "");
     const ExperimentChain fewOfUnits = measurement(Measurements::thalvex4, 1000, 3);
     const ExperimentChain manyOfUnits = measurement(Measurements::thalvex4, day, 3);
@@ -209,7 +210,8 @@ void benchPicture(const QString &path)
             sum += std::abs(qGray(full.pixel(x, y)) - qGray(reduced.pixel(x, y)));
     }
     const double percent = 100 * sum / 255 / full.width() / full.height();
-    std::printf("%-52s | %11s | %9.3f %% | %6s | <= 0.2 %%\n", "chart picture against all points, 150 dpi", "", percent, "");
+    std::printf("%-52s | %11s | %9.3f %% | %6s | <= 0.2 %%\n", "chart picture against all points, 150 dpi", "", percent,
+                "");
 }
 
 void benchSections(const QString &path)
@@ -222,9 +224,12 @@ void benchSections(const QString &path)
     notes.insert(QStringLiteral("obsText"), QStringLiteral("Doors open, water at will. ").repeated(20));
     using Keys = std::vector<const char *>;
     const std::pair<const char *, QJsonObject> sections[] = {
-        {"results", on(Keys{"ckbMaxMin", "ckbAvg"})}, {"calibration", on(Keys{"ckbCalibration"})},
-        {"chart", on(chart)},                         {"notes", notes},
-        {"signature", on(Keys{"repInfoEnable"})},     {"log table", on(table)},
+        {"results", on(Keys{"ckbMaxMin", "ckbAvg"})},
+        {"calibration", on(Keys{"ckbCalibration"})},
+        {"chart", on(chart)},
+        {"notes", notes},
+        {"signature", on(Keys{"repInfoEnable"})},
+        {"log table", on(table)},
         {"file of values", on(Keys{"ckbCsv"})},
     };
     const double bare = time({});

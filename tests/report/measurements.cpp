@@ -64,12 +64,12 @@ void expectParsed(int code)
 
 ExperimentChain Measurements::thalvex2(const Course &course)
 {
-    ExperimentChain experiment = measurement<Thalvex2Experiment, Thalvex2Log>(
-        course, [&](int i) { return values(course, i, 0); });
+    ExperimentChain experiment =
+        measurement<Thalvex2Experiment, Thalvex2Log>(course, [&](int i) { return values(course, i, 0); });
     auto results = std::make_unique<Thalvex2Results>();
     const QByteArray duration = QByteArray::number(course.samples * course.interval);
-    expectParsed(results->parseHeader1("+VFXPHDR: 1,1," + QByteArray::number(course.interval) + ",90," + duration + ','
-                                       + course.unit));
+    expectParsed(results->parseHeader1("+VFXPHDR: 1,1," + QByteArray::number(course.interval) + ",90," + duration +
+                                       ',' + course.unit));
     expectParsed(results->parseHeader2("+VFXPHDR: 2,1,25.64,25.04," + span(course)));
     expectParsed(results->parseHeader3("+VFXPHDR: 3,1,25.31,18.72,31.33,24.74,37.35,30.76"));
     experiment->setResults(std::move(results));
@@ -87,16 +87,16 @@ ExperimentChain Measurements::thalvex4(const Course &course)
     });
     auto results = std::make_unique<Thalvex4Results>();
     const QByteArray duration = QByteArray::number(course.samples * course.interval);
-    expectParsed(results->parseHeader1("+VFXPHDR: 1,1,1," + duration + ',' + span(course) + ",90,"
-                                       + QByteArray::number(course.interval) + ',' + course.unit));
+    expectParsed(results->parseHeader1("+VFXPHDR: 1,1,1," + duration + ',' + span(course) + ",90," +
+                                       QByteArray::number(course.interval) + ',' + course.unit));
     QByteArray boards = "+VFXPHDR: 2,1," + QByteArray::number(course.expansions);
     QByteArray averages = "+VFXPHDR: 3,1";
     QByteArray extremes = "+VFXPHDR: 4,1";
     for (int unit = 0; unit < units; ++unit) {
         const auto number = [&](double value) -> QByteArray { return ',' + QByteArray::number(value + unit, 'f', 2); };
         if (unit > 0)
-            boards += ",E40" + QByteArray::number(unit) + ",CC-9" + QByteArray::number(unit) + ",19/03/0"
-                      + QByteArray::number(unit) + ",10:00:00-12";
+            boards += ",E40" + QByteArray::number(unit) + ",CC-9" + QByteArray::number(unit) + ",19/03/0" +
+                      QByteArray::number(unit) + ",10:00:00-12";
         averages += number(5.64) + number(25.04);
         extremes += number(25.31) + number(18.72) + number(31.33) + number(24.74) + number(37.35) + number(30.76);
     }

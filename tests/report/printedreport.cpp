@@ -51,16 +51,18 @@ int PrintedReport::pages() const
 
 QString PrintedReport::text(int page) const
 {
-    return QString::fromUtf8(outputOf(QStringLiteral("pdftotext"),
-                                      pageArguments(page) + QStringList{QStringLiteral("-layout"), m_path, QStringLiteral("-")}));
+    return QString::fromUtf8(
+        outputOf(QStringLiteral("pdftotext"),
+                 pageArguments(page) + QStringList{QStringLiteral("-layout"), m_path, QStringLiteral("-")}));
 }
 
 QVector<PrintedReport::Word> PrintedReport::words(int page) const
 {
-    static const QRegularExpression word(
-        QStringLiteral("<word xMin=\"([-\\d.]+)\" yMin=\"([-\\d.]+)\" xMax=\"([-\\d.]+)\" yMax=\"([-\\d.]+)\">([^<]*)</word>"));
-    const QString html = QString::fromUtf8(outputOf(
-        QStringLiteral("pdftotext"), pageArguments(page) + QStringList{QStringLiteral("-bbox"), m_path, QStringLiteral("-")}));
+    static const QRegularExpression word(QStringLiteral(
+        "<word xMin=\"([-\\d.]+)\" yMin=\"([-\\d.]+)\" xMax=\"([-\\d.]+)\" yMax=\"([-\\d.]+)\">([^<]*)</word>"));
+    const QString html = QString::fromUtf8(
+        outputOf(QStringLiteral("pdftotext"),
+                 pageArguments(page) + QStringList{QStringLiteral("-bbox"), m_path, QStringLiteral("-")}));
     QVector<Word> words;
     for (auto match = word.globalMatch(html); match.hasNext();) {
         const QRegularExpressionMatch found = match.next();
@@ -91,7 +93,8 @@ QImage PrintedReport::image(int page, int dpi) const
 
 QStringList PrintedReport::fonts() const
 {
-    const QStringList lines = QString::fromUtf8(outputOf(QStringLiteral("pdffonts"), {m_path})).split(QLatin1Char('\n'));
+    const QStringList lines =
+        QString::fromUtf8(outputOf(QStringLiteral("pdffonts"), {m_path})).split(QLatin1Char('\n'));
     QStringList fonts;
     for (const QString &line : lines.mid(2)) {
         const QStringList cells = line.simplified().split(QLatin1Char(' '));

@@ -51,6 +51,6 @@ QStringList overlaps(const QVector<PrintedReport::Word> &words);
 /// The largest mean difference (0 to 255) of a tile of 16 by 16 pixels; 255 for pictures of different sizes.
 double largestDifference(const QImage &a, const QImage &b);
 
-/// The page's largest difference to the picture \a name in the tests' data. One that is too large leaves the page beside it
-/// in the folder for temporary files, for a look.
+/// The page's largest difference to the picture \a name in the tests' data. One that is too large leaves the page
+/// beside it in the folder for temporary files, for a look.
 double differenceToKept(const QImage &page, const QString &name);

@@ -53,7 +53,8 @@ public:
     }
     QList<VfSubSuperScript *> logTableHeader(Experiment *) override
     {
-        return {new VfSubSuperScript(QStringLiteral("No"), {}, {}), new VfSubSuperScript(QStringLiteral("Value"), {}, {})};
+        return {new VfSubSuperScript(QStringLiteral("No"), {}, {}),
+                new VfSubSuperScript(QStringLiteral("Value"), {}, {})};
     }
     int cellLength = 10;
 };
@@ -106,11 +107,16 @@ void TestReportEngine::fileNames_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("file");
-    QTest::newRow("no ending") << "C:/a/report" << "C:/a/report.pdf";
-    QTest::newRow("URL with a drive") << "file:///C:/a/r.pdf" << "C:/a/r.pdf";
-    QTest::newRow("URL from the root") << "file:///home/ana/r.pdf" << "/home/ana/r.pdf";
-    QTest::newRow("other ending") << "/home/ana/r.PDF" << "/home/ana/r.PDF.pdf";
-    QTest::newRow("encoded") << "file:///home/ana/100%25 n%231" << "/home/ana/100% n#1.pdf";
+    QTest::newRow("no ending") << "C:/a/report"
+                               << "C:/a/report.pdf";
+    QTest::newRow("URL with a drive") << "file:///C:/a/r.pdf"
+                                      << "C:/a/r.pdf";
+    QTest::newRow("URL from the root") << "file:///home/ana/r.pdf"
+                                       << "/home/ana/r.pdf";
+    QTest::newRow("other ending") << "/home/ana/r.PDF"
+                                  << "/home/ana/r.PDF.pdf";
+    QTest::newRow("encoded") << "file:///home/ana/100%25 n%231"
+                             << "/home/ana/100% n#1.pdf";
 }
 
 void TestReportEngine::fileNames()
@@ -211,8 +217,10 @@ void TestReportEngine::bareFirstPage()
     const PrintedReport printed(&report, experiment.get(), {});
     const QString text = printed.text();
     QVERIFY(text.contains(QLatin1String("Shared Report @ THALVEX 2 SN: T2-00123")));
-    QVERIFY(text.contains(QLatin1String("Date: ") + QLocale::system().toString(QDate(2019, 10, 9), QLocale::ShortFormat)));
-    for (const char *absent : {"Company evaluated", "Site/Area", "Valuation company", "Collected by", "Notes", "ID", "___"})
+    QVERIFY(
+        text.contains(QLatin1String("Date: ") + QLocale::system().toString(QDate(2019, 10, 9), QLocale::ShortFormat)));
+    for (const char *absent :
+         {"Company evaluated", "Site/Area", "Valuation company", "Collected by", "Notes", "ID", "___"})
         QVERIFY2(!text.contains(QLatin1String(absent)), absent);
     QVERIFY(text.contains(QLatin1String("1 of 1")));
     QVERIFY(printed.box(QStringLiteral("second")).left() > 200);
@@ -233,7 +241,8 @@ void TestReportEngine::logo()
     const PrintedReport printed(&report, experiment.get(), choices);
 
     // the head is centred in what the logo's 30 pixels leave
-    const double middle = (printed.box(QStringLiteral("Shared")).left() + printed.box(QStringLiteral("T2-00123")).right()) / 2;
+    const double middle =
+        (printed.box(QStringLiteral("Shared")).left() + printed.box(QStringLiteral("T2-00123")).right()) / 2;
     QVERIFY(qAbs(middle - (30 + 574 / 2.0)) < 2);
     // 25 by 25 pixels at the corner of the margins; content below it
     const QImage page = printed.image(1, 96);
@@ -313,10 +322,10 @@ void TestReportEngine::signature()
 void TestReportEngine::longTextsKeepApart()
 {
     const ExperimentChain experiment = Measurements::thalvex2({});
-    QJsonObject choices = switchedOn({QStringLiteral("cmpnyInfoEnable"), QStringLiteral("siteInfoEnable"),
-                                      QStringLiteral("ownCompanyInfoEnable"), QStringLiteral("collectorInfoEnable"),
-                                      QStringLiteral("obsEnable"), QStringLiteral("repInfoEnable"),
-                                      QStringLiteral("repIdInfoEnable")});
+    QJsonObject choices =
+        switchedOn({QStringLiteral("cmpnyInfoEnable"), QStringLiteral("siteInfoEnable"),
+                    QStringLiteral("ownCompanyInfoEnable"), QStringLiteral("collectorInfoEnable"),
+                    QStringLiteral("obsEnable"), QStringLiteral("repInfoEnable"), QStringLiteral("repIdInfoEnable")});
     const QString words = QStringLiteral("Companhia de Fundição e Laminação ").repeated(6);
     for (const char *key : {"cmpnyName", "ownCompany", "collectorName", "repName", "repIdReg"})
         choices.insert(QLatin1String(key), words);

@@ -30,19 +30,25 @@ struct Family {
 const Family &family(int index)
 {
     static const Family families[] = {
-        {"Thalvex2", "THALVEX 2", Measurements::thalvex2, []() -> VfPrinter * { return new Thalvex2Printer; },
+        {"Thalvex2",
+         "THALVEX 2",
+         Measurements::thalvex2,
+         []() -> VfPrinter * { return new Thalvex2Printer; },
          {"ckbMaxMin", "ckbAvg"}},
-        {"Thalvex4", "THALVEX 4", Measurements::thalvex4, []() -> VfPrinter * { return new Thalvex4Printer; },
+        {"Thalvex4",
+         "THALVEX 4",
+         Measurements::thalvex4,
+         []() -> VfPrinter * { return new Thalvex4Printer; },
          {"ckbResults", "ckbWetTempResults", "ckbDryTempResults", "ckbGlobeTempResults", "ckbIBUTGiResults",
           "ckbIBUTGeResults"}},
     };
     return families[index];
 }
 
-const QStringList tableKeys = {"ckbTable", "ckbWetTempTable", "ckbDryTempTable", "ckbGlobeTempTable", "ckbIBUTGiTable",
-                               "ckbIBUTGeTable"};
-const QStringList chartKeys = {"ckbChart", "ckbWetTempChart", "ckbDryTempChart", "ckbGlobeTempChart", "ckbIBUTGiChart",
-                               "ckbIBUTGeChart"};
+const QStringList tableKeys = {"ckbTable",          "ckbWetTempTable", "ckbDryTempTable",
+                               "ckbGlobeTempTable", "ckbIBUTGiTable",  "ckbIBUTGeTable"};
+const QStringList chartKeys = {"ckbChart",          "ckbWetTempChart", "ckbDryTempChart",
+                               "ckbGlobeTempChart", "ckbIBUTGiChart",  "ckbIBUTGeChart"};
 
 /// Prints \a experiment with the switches \a keys.
 struct Printed {
@@ -100,6 +106,7 @@ private slots:
     void decimalComma();
     void csv_data();
     void csv();
+    void csvInALocaleOfOtherSigns();
     void csvThatCannotBeOpened();
     void csvOfAChain();
     void nothingMeasured_data();
@@ -121,7 +128,8 @@ void TestReportHeatStress::switches_data()
     const QStringList optional = {"Evaluation results", "Calibration", "Chart", "Idx", "Notes", "Avg:", "Max:"};
     const auto row = [](const char *name, int index, const QStringList &keys, const QStringList &present,
                         const QStringList &absent) { QTest::newRow(name) << index << keys << present << absent; };
-    row("2: nothing", 0, {}, {"Experiment", "Start time: 09:37:01", "Duration: 01:00:00", "Pause time: 00:01:30"}, optional);
+    row("2: nothing", 0, {}, {"Experiment", "Start time: 09:37:01", "Duration: 01:00:00", "Pause time: 00:01:30"},
+        optional);
     row("2: extremes", 0, {"ckbMaxMin"},
         {"Evaluation results", "Dry temp [°C] Wet temp [°C] Globe temp [°C]", "Max: 31.33 Max: 25.31 Max: 37.35",
          "Min: 24.74 Min: 18.72 Min: 30.76"},
@@ -139,8 +147,9 @@ void TestReportHeatStress::switches_data()
     row("2: table of globe", 0, {"ckbTable", "ckbGlobeTempTable"}, {"001 09:37:01 34.2"}, {"28.1"});
     row("2: table of WBGTi", 0, {"ckbTable", "ckbIBUTGiTable"}, {"001 09:37:01 25.7"}, {});
     row("2: table of WBGTo", 0, {"ckbTable", "ckbIBUTGeTable"}, {"001 09:37:01 25.0"}, {});
-    const QStringList always = {"Evaluation results", "Instrument index Instrument Model WBGTi WBGTo", "1 THALVEX 4 05.64 25.04",
-                                "2 EXP. THALVEX 4 06.64 26.04", "THALVEX 4(SN-00123)", "EXP. THALVEX 4(E401)"};
+    const QStringList always = {"Evaluation results",      "Instrument index Instrument Model WBGTi WBGTo",
+                                "1 THALVEX 4 05.64 25.04", "2 EXP. THALVEX 4 06.64 26.04",
+                                "THALVEX 4(SN-00123)",     "EXP. THALVEX 4(E401)"};
     row("4: nothing", 1, {}, always, {"Partial results", "Cal. cert.", "Chart", "Idx", "Max:"});
     row("4: calibration", 1, {"ckbCalibration"},
         always + QStringList{"Cal. cert.: CC-2019/77 4 Mar 2019", "Cal. cert.: CC-91 1 Mar 2019"}, {"Partial results"});
@@ -304,7 +313,8 @@ void TestReportHeatStress::decimalComma()
     const QString text = simplified(printed.report.text()).join(QLatin1Char('\n'));
     QVERIFY(text.contains(QLatin1String("Max: 31,33 Max: 25,31 Max: 37,35")));
     QVERIFY(text.contains(QLatin1String("001 09:37:01 28,1 22,0 34,2 25,7 25,0")));
-    QVERIFY(text.contains(QRegularExpression(QStringLiteral("^38,\\d"), QRegularExpression::MultilineOption))); // the axis
+    QVERIFY(
+        text.contains(QRegularExpression(QStringLiteral("^38,\\d"), QRegularExpression::MultilineOption))); // the axis
     QVERIFY(printed.report.csv().contains("\r\n\"09:37:01\";\"28,1\";\"22,0\";\"34,2\";\"25,7\";\"25,0\"\r\n"));
 }
 
@@ -330,13 +340,13 @@ void TestReportHeatStress::csv_data()
                             "C]\";\r\n";
     const QByteArray rest = ";\"\";\"\";\"\";\"\";\"\";\r\n";
     QTest::newRow("4") << 1
-                       << "\"Event 1\"" + rest + "\"Main\"" + rest + head
-                              + "\"09:37:01\";\"22.0\";\"28.1\";\"34.2\";\"25.7\";\"25.0\"\r\n"
-                                "\"09:38:01\";\"22.0\";\"27.9\";\"33.8\";\"25.5\";\"25.0\"\r\n"
-                              + "\"\"" + rest + "\"Expansion 1\"" + rest + head
-                              + "\"09:37:01\";\"22.5\";\"28.6\";\"34.7\";\"26.2\";\"25.5\"\r\n"
-                                "\"09:38:01\";\"22.5\";\"28.4\";\"34.3\";\"26.0\";\"25.5\"\r\n"
-                              + "\"\"" + rest;
+                       << "\"Event 1\"" + rest + "\"Main\"" + rest + head +
+                              "\"09:37:01\";\"22.0\";\"28.1\";\"34.2\";\"25.7\";\"25.0\"\r\n"
+                              "\"09:38:01\";\"22.0\";\"27.9\";\"33.8\";\"25.5\";\"25.0\"\r\n" +
+                              "\"\"" + rest + "\"Expansion 1\"" + rest + head +
+                              "\"09:37:01\";\"22.5\";\"28.6\";\"34.7\";\"26.2\";\"25.5\"\r\n"
+                              "\"09:38:01\";\"22.5\";\"28.4\";\"34.3\";\"26.0\";\"25.5\"\r\n" +
+                              "\"\"" + rest;
 }
 
 void TestReportHeatStress::csv()
@@ -350,6 +360,18 @@ void TestReportHeatStress::csv()
     QTEST(printed.report.csv(), "bytes");
     const Printed without(family(index), experiment.get(), {});
     QCOMPARE(without.report.csv(), QByteArray());
+}
+
+void TestReportHeatStress::csvInALocaleOfOtherSigns()
+{
+    QLocale::setDefault(QLocale(QStringLiteral("sv_SE"))); // its minus is no hyphen
+    Course course;
+    course.samples = 1;
+    course.text = "-5.3";
+    const ExperimentChain experiment = Measurements::thalvex2(course);
+    const Printed printed(family(0), experiment.get(), {"ckbCsv"});
+    QVERIFY(printed.report.csv().contains("\"\xE2\x88\x92"
+                                          "5,3\""));
 }
 
 void TestReportHeatStress::csvThatCannotBeOpened()
@@ -401,7 +423,8 @@ void TestReportHeatStress::nothingMeasured()
     ExperimentChain experiment = family(index).measure(course);
     if (text.isEmpty())
         experiment.reset(index == 0 ? static_cast<Experiment *>(new Thalvex2Experiment) : new Thalvex4Experiment);
-    const Printed printed(family(index), experiment.get(), tableKeys + chartKeys + family(index).own + QStringList{"ckbCsv"});
+    const Printed printed(family(index), experiment.get(),
+                          tableKeys + chartKeys + family(index).own + QStringList{"ckbCsv"});
     QCOMPARE(printed.report.result(), 0);
     const QString page = simplified(printed.report.text()).join(QLatin1Char('\n'));
     QCOMPARE(page.contains(QLatin1String("001 09:37:01 0.0 0.0 0.0 0.0 0.0")), !text.isEmpty());
@@ -412,9 +435,13 @@ void TestReportHeatStress::sampleTexts_data()
     QTest::addColumn<QByteArray>("sent");
     QTest::addColumn<QByteArray>("written");
     const std::pair<const char *, const char *> texts[] = {
-        {"25.3", "25.3"}, {"-5.3", "-5.3"},   {"25", "25.0"},  {".5", "0.5"},         {"5.", "5.0"},
-        {"-", "0.0"},     {"1e2", "100.0"},   {"+7.5", "7.5"}, {"2.5.1", "0.0"},      {"0.123456789", "0.1"},
-        {"-.5", "-0.5"},  {"- 5", "0.0"},     {"25.36", "25.4"}, {"25.30000000000000", "25.3"},
+        {"25.3", "25.3"},  {"-5.3", "-5.3"},
+        {"25", "25.0"},    {".5", "0.5"},
+        {"5.", "5.0"},     {"-", "0.0"},
+        {"1e2", "100.0"},  {"+7.5", "7.5"},
+        {"2.5.1", "0.0"},  {"0.123456789", "0.1"},
+        {"-.5", "-0.5"},   {"- 5", "0.0"},
+        {"25.36", "25.4"}, {"25.30000000000000", "25.3"},
     };
     for (const auto &[sent, written] : texts)
         QTest::newRow(sent) << QByteArray(sent) << QByteArray(written);
@@ -465,8 +492,8 @@ void TestReportHeatStress::keptPicture()
     course.expansions = index;
     const ExperimentChain experiment = family(index).measure(course);
     const Printed printed(family(index), experiment.get(),
-                          tableKeys + chartKeys + family(index).own
-                              + QStringList{"ckbCalibration", "obsEnable", "repInfoEnable", "cmpnyInfoEnable"},
+                          tableKeys + chartKeys + family(index).own +
+                              QStringList{"ckbCalibration", "obsEnable", "repInfoEnable", "cmpnyInfoEnable"},
                           {{QStringLiteral("obsText"), QStringLiteral("Medição junto ao forno")},
                            {QStringLiteral("repName"), QStringLiteral("José da Conceição")},
                            {QStringLiteral("cmpnyName"), QStringLiteral("Fundição São João & Irmãos")}});

@@ -35,7 +35,10 @@ public:
     {
         if (!answering)
             return;
-        connect(this, &VfTable::newPage, this, [this] { ++page; setNewPageDone(true); });
+        connect(this, &VfTable::newPage, this, [this] {
+            ++page;
+            setNewPageDone(true);
+        });
         connect(this, &VfTable::finishPage, this, [this] { setFinishPageDone(true); });
     }
     int drawHeader(int x, int y) override
@@ -94,8 +97,9 @@ template <class Table> void printTable(const QString &path)
     printer.setPageSize(QPageSize(QPageSize::A4));
     QPainter painter(&printer);
     Table table(&painter);
-    table.setRows(numbered(40, -1, {QStringLiteral("21:00:00"), QStringLiteral("-5.3"), QStringLiteral("---"),
-                                    QStringLiteral("1,234.5"), QStringLiteral("25.3 °C")}));
+    table.setRows(numbered(40, -1,
+                           {QStringLiteral("21:00:00"), QStringLiteral("-5.3"), QStringLiteral("---"),
+                            QStringLiteral("1,234.5"), QStringLiteral("25.3 °C")}));
     table.draw(0, 20);
 }
 
@@ -199,7 +203,8 @@ void TestReportTables::blocksFillThePage()
     Paper paper;
     NotingTable table(paper.painter());
     table.setRows(numbered(500, -1, {QStringLiteral("21:00:00"), QStringLiteral("25.3")}));
-    table.setHeader({new VfSubSuperScript(QStringLiteral("a"), {}, {}), new VfSubSuperScript(QStringLiteral("b"), {}, {}),
+    table.setHeader({new VfSubSuperScript(QStringLiteral("a"), {}, {}),
+                     new VfSubSuperScript(QStringLiteral("b"), {}, {}),
                      new VfSubSuperScript(QStringLiteral("c"), {}, {})});
     const int width = table.totalWidth();
     const int blocks = 604 / width;
