@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/field.h"
 
+#include <array>
+
 Pieces pieces(const QByteArray &answer, const char *tag)
 {
     QByteArray plain = answer;
@@ -26,6 +28,16 @@ QString wireText(const QByteArray &piece, Form form)
         break;
     }
     return text;
+}
+
+QString sharedText(const QString &text)
+{
+    constexpr std::size_t Places = 4096;
+    static std::array<QString, Places> texts; // each place keeps the last text of its kind: never more than these
+    QString &place = texts[qHash(text) % Places];
+    if (place != text)
+        place = text;
+    return place;
 }
 
 QDateTime wireDate(const Pieces &pieces, int at)

@@ -56,6 +56,10 @@ QString clockText(int seconds);
 /// The text of \a piece as a member of form \a form keeps it.
 QString wireText(const QByteArray &piece, Form form);
 
+/// \a text, as the same object that was handed out for the last equal texts: the values of a measurement recur by the
+/// thousand, and kept apart they are most of what an opened file takes of the memory.
+QString sharedText(const QString &text);
+
 /// The date that stands in pieces \a at and \a at + 1.
 QDateTime wireDate(const Pieces &pieces, int at);
 
@@ -72,7 +76,7 @@ template <class T> void readPieces(T &record, const Fields<T> &fields, int heade
             continue;
         const int at = field.piece + offset;
         std::visit(Overloaded{
-                       [&](QString T::*text) { record.*text = wireText(pieces.value(at), field.form); },
+                       [&](QString T::*text) { record.*text = sharedText(wireText(pieces.value(at), field.form)); },
                        [&](int T::*number) { record.*number = pieces.value(at).toInt(); },
                        [&](double T::*number) { record.*number = pieces.value(at).toDouble(); },
                        [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
@@ -127,7 +131,7 @@ template <class T> void readJson(T &record, const Fields<T> &fields, const QJson
     for (const Field<T> &field : fields) {
         const QJsonValue value = object.value(QLatin1String(field.key));
         std::visit(Overloaded{
-                       [&](QString T::*text) { record.*text = value.toString(); },
+                       [&](QString T::*text) { record.*text = sharedText(value.toString()); },
                        [&](int T::*number) { record.*number = value.toInt(); },
                        [&](double T::*number) { record.*number = value.toDouble(); },
                        [&](QDateTime T::*date) { record.*date = AtDateTime::fromAtString(value.toString()); },
