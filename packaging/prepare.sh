@@ -35,15 +35,26 @@ install_missing() {
     fi
 }
 
-# build PRESET FOLDER [cmake argument...]
-build() {
-    local preset=$1 folder=$2
+# configure PRESET FOLDER [cmake argument...]: once, and again when the arguments change; without any, as it stands.
+configure() {
+    local preset=$1 folder=$top/$2
     shift 2
-    say "Building $preset in $folder/"
-    mkdir -p "$top/$folder"
-    if ! (cd "$top" && cmake --preset "$preset" "$@") >"$top/$folder/configure.log" 2>&1; then
-        cat "$top/$folder/configure.log"
+    if [ -f "$folder/build.ninja" ] && { [ $# -eq 0 ] || [ "$*" = "$(cat "$folder/configured-with" 2>/dev/null)" ]; }; then
+        return 0
+    fi
+    say "Configuring $preset"
+    mkdir -p "$folder"
+    if ! (cd "$top" && cmake --preset "$preset" "$@") >"$folder/configure.log" 2>&1; then
+        cat "$folder/configure.log"
         return 1
     fi
-    cmake --build "$top/$folder"
+    printf '%s\n' "$*" >"$folder/configured-with"
+}
+
+# build FOLDER [target...]
+build() {
+    local folder=$1
+    shift
+    say "Building in $folder/"
+    cmake --build "$top/$folder" ${1:+--target "$@"}
 }
