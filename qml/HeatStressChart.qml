@@ -6,7 +6,7 @@ VfTimeChart {
     /// experiment: the parsed one; figures: what its instrument computed for the unit; reading: the unit's part of a record.
     function populateSeries(experiment, figures, reading, indoorRole, outdoorRole) {
         var roles = ["wetTemperature", "dryTemperature", "globeTemperature", indoorRole, outdoorRole]
-        var data = read(experiment, roles, function (record, role) { return reading(record)[role] })
+        var data = read(experiment, roles, reading)
         function named(symbol, below) { return symbol + "<sub>" + below + "</sub> [" + figures.unity + "]" }
         data.names = [named(qsTr("T"), qsTr("wet")), named(qsTr("T"), qsTr("dry")), named(qsTr("T"), qsTr("globe")),
                       named(qsTr("WBGT"), qsTr("i")), named(qsTr("WBGT"), qsTr("o"))]

@@ -34,6 +34,15 @@ Item {
         fill(swipe.currentIndex)
     }
 
+    /// Lets go of the records.
+    function forget() {
+        experiment = null
+        if (table)
+            table.rows = []
+        if (temperatureChart)
+            temperatureChart.clear()
+    }
+
     function fill(tab) {
         if (!experiment || !swipe.stale[tab])
             return

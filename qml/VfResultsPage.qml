@@ -25,7 +25,7 @@ VfPage {
 
     signal showResults()
 
-    /// A family hands the experiment to its view.
+    /// A family hands the experiment to its view, which has a function forget() too.
     function fill(parsed) {}
 
     function update(position) {
@@ -33,12 +33,18 @@ VfPage {
         // Every results page hears of every experiment; only its own page reads more than the head of a long text.
         if (Experiments.deviceName(text) !== productName)
             return
+        // Records are many: let go of the old ones first.
+        experiment = null
+        if (viewItem) {
+            viewItem.forget()
+            infoItem.experiment = {}
+        }
         experiment = JSON.parse(text)
         previous.visible = position === root.expLastItem || position === root.expMiddleItem
         next.visible = position === root.expFirstItem || position === root.expMiddleItem
         viewLoader.active = true
         infoLoader.active = true
-        infoLoader.item.experiment = experiment
+        infoItem.experiment = experiment
         fill(experiment)
         showResults()
     }

@@ -36,10 +36,10 @@ FocusScope {
     readonly property alias seriesCount: chart.count
     function drawnSeries(k) { return chart.series(k) }
 
-    /// The numbers of an experiment's records for some roles; value(record, role) gives a text.
-    function read(experiment, roles, value) {
+    /// The numbers of an experiment's records for some roles; reading(record) is the part of a record that has them.
+    function read(experiment, roles, reading) {
         var moment = TimeChart.momentReader(root.convertDateTimeATToLocalTimeString)
-        return TimeChart.readings(experiment.logList || [], moment, roles, value)
+        return TimeChart.readings(experiment.logList || [], moment, roles, reading)
     }
 
     /// data: what read() gave, with names and the range low..high; sampleTime in seconds stays free on both sides.
@@ -57,6 +57,7 @@ FocusScope {
         timeAxis.max = new Date(Math.max(last, first) + Math.max(margin, 500))
         valueAxis.min = isNaN(range.low) ? 0 : range.low
         valueAxis.max = isNaN(range.high) ? 1 : range.high
+        valueAxis.tickCount = 5     // what the last nice numbers came to would else count
         valueAxis.applyNiceNumbers()
         draw()
     }
@@ -74,6 +75,13 @@ FocusScope {
             chart.setAxisX(timeAxis, series)
             chart.setAxisY(valueAxis, series)
         }
+    }
+
+    /// Lets go of the records; the curves stay until others are shown.
+    function clear() {
+        forget()
+        times = []
+        values = []
     }
 
     function forget() {
@@ -182,7 +190,8 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true
-        onPositionChanged: timeChart.pointAt(mouse.x, mouse.y)
+        onEntered: timeChart.pointAt(mouseX, mouseY)
+        onPositionChanged: timeChart.pointAt(mouseX, mouseY)
         onExited: if (!timeChart.activeFocus && !hover.holdOn) timeChart.forget()
         onClicked: {
             timeChart.forceActiveFocus()

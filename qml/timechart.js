@@ -5,14 +5,14 @@
 // A reader of the instruments' date texts ("21/03/05,14:30:00-12") that gives moments in ms, NaN for an unreadable text.
 // convert reads one text into a Date. The records of a day share its work: only the clock is read for each of them.
 function momentReader(convert) {
-    var day = "", midnight = NaN
+    var day = "?", zone = "?", midnight = NaN
     return function (text) {
         if (typeof text !== "string" || text.length !== 20)
             return momentOf(convert(text))
-        var key = text.substring(0, 8) + text.substring(17)
-        if (key !== day) {
-            midnight = momentOf(convert(text.substring(0, 9) + "00:00:00" + text.substring(17)))
-            day = key
+        if (!text.startsWith(day) || !text.endsWith(zone)) {
+            day = text.substring(0, 9)
+            zone = text.substring(17)
+            midnight = momentOf(convert(day + "00:00:00" + zone))
         }
         var hour = two(text, 9), minute = two(text, 12), second = two(text, 15)
         var clock = hour < 24 && minute < 60 && second < 60 && text[11] === ":" && text[14] === ":"
@@ -33,21 +33,26 @@ function two(text, at) {
 // A text as number; NaN for what is none. An empty or blank text would else read as 0.
 function number(text) {
     var value = text === null ? NaN : Number(text)
-    return value === 0 && typeof text === "string" && text.indexOf("0") < 0 ? NaN : value
+    return !isFinite(value) || value === 0 && String(text).indexOf("0") < 0 ? NaN : value
 }
 
 // Times and values of the records that have a time: {times, sorted, values: one array for each role}.
-// value(record, role) is the record's text. A value that is no number is NaN: it is not drawn and not pointed at.
-function readings(records, moment, roles, value) {
+// reading(record) is the part of a record with the texts of the roles. A value that is no number is NaN: it is not drawn
+// and not pointed at.
+function readings(records, moment, roles, reading) {
     var times = [], sorted = true, values = roles.map(function () { return [] })
+    var known = {}      // a day of records repeats a few hundred texts
     for (var i = 0; i < records.length; ++i) {
         var time = moment(records[i].date)
-        if (isNaN(time))
+        if (time !== time)
             continue
         sorted = sorted && !(time < times[times.length - 1])
         times.push(time)
-        for (var k = 0; k < roles.length; ++k)
-            values[k].push(number(value(records[i], roles[k])))
+        var part = reading(records[i])
+        for (var k = 0; k < roles.length; ++k) {
+            var text = part[roles[k]], value = known[text]
+            values[k].push(value === undefined ? (known[text] = number(text)) : value)
+        }
     }
     return { times: times, sorted: sorted, values: values }
 }
@@ -78,7 +83,8 @@ function columns(xs, ys, count, from, to) {
             low[column] = high[column] = i
         } else {
             if (y < ys[low[column]]) low[column] = i
-            if (y > ys[high[column]]) high[column] = i
+            // Of equals the last, so that the two lie apart and the curve fills the column as all its points do.
+            if (y >= ys[high[column]]) high[column] = i
         }
     }
     for (column = 0; column < count; ++column) {

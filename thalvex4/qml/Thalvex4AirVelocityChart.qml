@@ -8,7 +8,7 @@ import "../../qml/timechart.js" as TimeChart
 VfTimeChart {
     /// experiment: the parsed one; reading: the unit's part of a record.
     function populateSeries(experiment, reading) {
-        var data = read(experiment, ["airVelocity"], function (record, role) { return reading(record)[role] })
+        var data = read(experiment, ["airVelocity"], reading)
         var range = TimeChart.extremes(data.values)
         data.names = [qsTr("Air Velocity")]
         data.low = range.low * 0.9

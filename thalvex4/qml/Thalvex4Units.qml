@@ -11,17 +11,24 @@ Item {
     /// The instrument has room for the main unit and three expansions.
     readonly property int mostUnits: 4
     property var experiment: null
-    readonly property int count: experiment
-        ? Math.max(1, Math.min(mostUnits, (experiment.results || {}).numberOfExpansions + 1 || 1)) : 0
+    property int count: 0
     readonly property alias currentUnit: list.currentIndex
     property var currentView: null
 
     function show(parsed) {
         experiment = parsed
+        count = Math.max(1, Math.min(mostUnits, (parsed.results || {}).numberOfExpansions + 1 || 1))
         for (var i = 0; i < views.count; ++i)
             views.itemAt(i).stale = true
         setUnit(0)
         fill(0)
+    }
+
+    function forget() {
+        experiment = null
+        for (var i = 0; i < views.count; ++i)
+            if (views.itemAt(i).item)
+                views.itemAt(i).item.forget()
     }
 
     function setUnit(unit) {
