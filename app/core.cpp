@@ -7,6 +7,7 @@
 #include "link/factories.h"
 #include "model/exposurecomponent.h"
 #include "model/filename.h"
+#include "model/jsontext.h"
 #include "report/vfprinter.h"
 
 #include <QCoreApplication>
@@ -18,6 +19,13 @@ namespace {
 QString compactText(const QJsonObject &object)
 {
     return QString::fromUtf8(QJsonDocument(object).toJson(QJsonDocument::Compact));
+}
+
+QString experimentText(const Experiment &experiment)
+{
+    JsonText text(QJsonDocument::Compact);
+    experiment.writeText(text);
+    return QString::fromUtf8(text.document());
 }
 
 } // namespace
@@ -78,7 +86,7 @@ QVariant Core::device() const
 QString Core::experiment() const
 {
     if (m_experimentText.isNull() && m_experiment)
-        m_experimentText = compactText(m_experiment->toJson());
+        m_experimentText = experimentText(*m_experiment);
     return m_experimentText;
 }
 

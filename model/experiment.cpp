@@ -88,11 +88,8 @@ Pieces Experiment::parseListLine(const QByteArray &line, int atLeast)
     return list;
 }
 
-QJsonObject Experiment::sharedJson() const
+QJsonObject Experiment::summary() const
 {
-    QJsonArray logList;
-    for (const Log *log : m_logs)
-        logList.append(log->toJson());
     // index and size are texts in files, the place in the chain is a number
     return {
         {QStringLiteral("date"), AtDateTime::toAtString(m_dateTime)},
@@ -100,9 +97,39 @@ QJsonObject Experiment::sharedJson() const
         {QStringLiteral("deviceName"), m_deviceName},
         {QStringLiteral("index"), QString::number(m_index)},
         {QStringLiteral("eventIndex"), ordinal()},
-        {QStringLiteral("logList"), logList},
         {QStringLiteral("results"), m_results ? m_results->toJson() : QJsonObject()},
     };
+}
+
+QJsonObject Experiment::toJson() const
+{
+    QJsonArray logList;
+    for (const Log *log : m_logs)
+        logList.append(log->toJson());
+    QJsonObject object = summary();
+    object.insert(QLatin1String("logList"), logList);
+    return object;
+}
+
+void Experiment::writeText(JsonText &out) const
+{
+    QJsonObject object = summary();
+    object.insert(QLatin1String("logList"), QJsonValue()); // holds the place of the records
+    out.beginObject();
+    for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
+        out.key(member.key().toUtf8().constData());
+        if (member.key() != QLatin1String("logList")) {
+            out.value(member.value());
+            continue;
+        }
+        out.beginArray();
+        for (const Log *log : m_logs) {
+            out.element();
+            log->writeText(out);
+        }
+        out.endArray();
+    }
+    out.endObject();
 }
 
 void Experiment::fromJson(const QJsonObject &body, const QString &product)

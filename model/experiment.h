@@ -51,7 +51,9 @@ public:
     /// Makes a log of each line, in order. 0, or 1 at the first line that is refused.
     [[nodiscard]] virtual int parseLogs(const QList<QByteArray> &lines);
     /// The experiment as it stands in files and on the pages.
-    virtual QJsonObject toJson() const = 0;
+    QJsonObject toJson() const;
+    /// Writes what toJson() gives.
+    void writeText(JsonText &out) const;
     /// Reads one line of an instrument's list: 0, or -1 with too few fields.
     [[nodiscard]] virtual int parseHeader(const QByteArray &line) = 0;
     /// Reads what toJson() wrote, with logs and results of \a product's classes.
@@ -78,8 +80,9 @@ signals:
     void experimentIndexChanged();
 
 protected:
-    /// What all families write: date, size, device name, index, place in the chain, logs and results.
-    QJsonObject sharedJson() const;
+    /// What toJson() gives but for the logs: the base's date, size, device name, index, place in the chain and results,
+    /// to which a family adds its own.
+    virtual QJsonObject summary() const;
     /// Reads index, size and date of a list line that has at least \a atLeast fields: the pieces, or none when refused.
     Pieces parseListLine(const QByteArray &line, int atLeast);
 

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "model/atdatetime.h"
+#include "model/jsontext.h"
 
 #include <QByteArray>
 #include <QDateTime>
@@ -11,6 +12,8 @@
 #include <QVector>
 
 #include <algorithm>
+#include <cstring>
+#include <initializer_list>
 #include <memory>
 #include <variant>
 #include <vector>
@@ -32,6 +35,7 @@ constexpr int InRecord = -1; ///< header of a row that stands in a logged record
 template <class T> struct Nested {
     virtual ~Nested() = default;
     virtual QJsonValue toJson(const T &owner) const = 0;
+    virtual void writeText(const T &owner, JsonText &out) const = 0;
     virtual void fromJson(T &owner, const QJsonValue &value) const = 0;
 };
 
@@ -43,7 +47,29 @@ template <class T> struct Field {
     Form form = Form::Plain;
 };
 
-template <class T> using Fields = std::vector<Field<T>>;
+/// The table of a record, made once and never copied.
+template <class T> class Fields
+{
+public:
+    Fields(std::initializer_list<Field<T>> rows) : m_rows(rows)
+    {
+        for (const Field<T> &row : m_rows)
+            m_byKey.push_back(&row);
+        std::sort(m_byKey.begin(), m_byKey.end(),
+                  [](const Field<T> *a, const Field<T> *b) { return std::strcmp(a->key, b->key) < 0; });
+    }
+    Fields(const Fields &) = delete;
+    Fields &operator=(const Fields &) = delete;
+
+    auto begin() const { return m_rows.begin(); }
+    auto end() const { return m_rows.end(); }
+    /// The rows in the order in which JSON text has them.
+    const std::vector<const Field<T> *> &byKey() const { return m_byKey; }
+
+private:
+    std::vector<Field<T>> m_rows;
+    std::vector<const Field<T> *> m_byKey;
+};
 
 using Pieces = QVector<QByteArray>;
 
@@ -141,12 +167,30 @@ template <class T> void readJson(T &record, const Fields<T> &fields, const QJson
     }
 }
 
+/// Writes \a record as writeJson() would give it.
+template <class T> void writeText(JsonText &out, const T &record, const Fields<T> &fields)
+{
+    out.beginObject();
+    for (const Field<T> *field : fields.byKey()) {
+        out.key(field->key);
+        std::visit(Overloaded{
+                       [&](QDateTime T::*date) { out.value(AtDateTime::toAtString(record.*date)); },
+                       [&](const std::shared_ptr<const Nested<T>> &part) { part->writeText(record, out); },
+                       [&](double T::*number) { out.value(QJsonValue(record.*number)); },
+                       [&](auto member) { out.value(record.*member); },
+                   },
+                   field->member);
+    }
+    out.endObject();
+}
+
 /// A row's member that is one object of type \a P.
 template <class T, class P> std::shared_ptr<const Nested<T>> objectOf(P T::*member)
 {
     struct Object final : Nested<T> {
         explicit Object(P T::*m) : member(m) {}
         QJsonValue toJson(const T &owner) const override { return writeJson(owner.*member, P::fields()); }
+        void writeText(const T &owner, JsonText &out) const override { ::writeText(out, owner.*member, P::fields()); }
         void fromJson(T &owner, const QJsonValue &value) const override
         {
             readJson(owner.*member, P::fields(), value.toObject());
@@ -167,6 +211,15 @@ template <class T, class P> std::shared_ptr<const Nested<T>> listOf(QVector<P> T
             for (const P &part : owner.*member)
                 array.append(writeJson(part, P::fields()));
             return array;
+        }
+        void writeText(const T &owner, JsonText &out) const override
+        {
+            out.beginArray();
+            for (const P &part : owner.*member) {
+                out.element();
+                ::writeText(out, part, P::fields());
+            }
+            out.endArray();
         }
         void fromJson(T &owner, const QJsonValue &value) const override
         {

@@ -19,6 +19,11 @@ QJsonObject Log::toJson() const
     return {};
 }
 
+void Log::writeText(JsonText &out) const
+{
+    out.value(QJsonValue(toJson()));
+}
+
 void Log::fromJson(const QJsonObject &)
 {
 }

@@ -22,6 +22,8 @@ public:
     [[nodiscard]] virtual int parse(const QByteArray &line);
     /// The record as it stands in files and on the pages.
     virtual QJsonObject toJson() const;
+    /// Writes what toJson() gives.
+    virtual void writeText(JsonText &out) const;
     /// Reads what toJson() wrote.
     virtual void fromJson(const QJsonObject &object);
 

@@ -4,6 +4,7 @@
 #include "link/device.h"
 #include "link/factories.h"
 #include "model/buildinfo.h"
+#include "model/jsontext.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -113,13 +114,18 @@ bool VfFile::save(const QByteArray &content)
 
 QByteArray VfFile::contentFor(const QJsonObject &device, const Experiment *first)
 {
-    QJsonArray body;
-    for (const Experiment *member = first; member; member = member->next())
-        body.append(member->toJson());
-    const QJsonObject document{
-        {QStringLiteral("Info"), QJsonObject{{QStringLiteral("Sw"), BuildInfo::revision()}, {QStringLiteral("Device"), device}}},
-        {QStringLiteral("Body"), body},
-    };
-    const QByteArray line = QJsonDocument(document).toJson().toBase64();
+    JsonText text(QJsonDocument::Indented);
+    text.beginObject();
+    text.key("Body");
+    text.beginArray();
+    for (const Experiment *member = first; member; member = member->next()) {
+        text.element();
+        member->writeText(text);
+    }
+    text.endArray();
+    text.key("Info");
+    text.value(QJsonObject{{QStringLiteral("Sw"), BuildInfo::revision()}, {QStringLiteral("Device"), device}});
+    text.endObject();
+    const QByteArray line = text.document().toBase64();
     return line + '\n' + checksum(line);
 }

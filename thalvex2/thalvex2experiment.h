@@ -13,5 +13,4 @@ public:
 
     /// A list line: at least 5 fields.
     [[nodiscard]] int parseHeader(const QByteArray &line) override { return parseListLine(line, 5).isEmpty() ? -1 : 0; }
-    QJsonObject toJson() const override { return sharedJson(); }
 };

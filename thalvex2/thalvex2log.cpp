@@ -29,6 +29,11 @@ QJsonObject Thalvex2Log::toJson() const
     return writeJson(*this, fields());
 }
 
+void Thalvex2Log::writeText(JsonText &out) const
+{
+    ::writeText(out, *this, fields());
+}
+
 void Thalvex2Log::fromJson(const QJsonObject &object)
 {
     readJson(*this, fields(), object);

@@ -25,6 +25,7 @@ public:
     /// A record: at least 10 fields.
     [[nodiscard]] int parse(const QByteArray &line) override;
     QJsonObject toJson() const override;
+    void writeText(JsonText &out) const override;
     void fromJson(const QJsonObject &object) override;
 
 private:

@@ -25,9 +25,9 @@ int Thalvex4Experiment::parseHeader(const QByteArray &line)
     return 0;
 }
 
-QJsonObject Thalvex4Experiment::toJson() const
+QJsonObject Thalvex4Experiment::summary() const
 {
-    QJsonObject object = sharedJson();
+    QJsonObject object = Experiment::summary();
     object.insert(QLatin1String("expName"), m_expName);
     return object;
 }

@@ -20,11 +20,13 @@ public:
     void copyFrom(const Experiment *other) override;
     /// A list line: at least 6 fields, the last of which is the name.
     [[nodiscard]] int parseHeader(const QByteArray &line) override;
-    QJsonObject toJson() const override;
     void fromJson(const QJsonObject &body, const QString &product) override;
 
 signals:
     void experimentNameChanged();
+
+protected:
+    QJsonObject summary() const override;
 
 private:
     QString m_expName;

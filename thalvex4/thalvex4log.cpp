@@ -45,6 +45,11 @@ QJsonObject Thalvex4Log::toJson() const
     return writeJson(*this, fields());
 }
 
+void Thalvex4Log::writeText(JsonText &out) const
+{
+    ::writeText(out, *this, fields());
+}
+
 void Thalvex4Log::fromJson(const QJsonObject &object)
 {
     readJson(*this, fields(), object);

@@ -15,6 +15,7 @@ public:
     /// A record: at least 37 fields, with a block for each of up to four units.
     [[nodiscard]] int parse(const QByteArray &line) override;
     QJsonObject toJson() const override;
+    void writeText(JsonText &out) const override;
     void fromJson(const QJsonObject &object) override;
 
 private:

@@ -5,6 +5,7 @@
 #include "link/factories.h"
 #include "model/experiment.h"
 #include "model/filename.h"
+#include "model/jsontext.h"
 #include "model/log.h"
 #include "model/results.h"
 #include "model/vffile.h"
@@ -87,6 +88,39 @@ private slots:
         const QByteArray written = VfFile::contentFor(opened.device->toJson(), opened.chain.get());
         QCOMPARE(QByteArray::fromBase64(written.split('\n')[0]), QByteArray::fromBase64(content.split('\n')[0]));
         QCOMPARE(written, content);
+    }
+
+    /// The text that is written record by record is what the tree of the whole would print, odd texts and empty lists
+    /// included.
+    void writesAsTheTreeWould_data()
+    {
+        QTest::addColumn<QString>("product");
+        QTest::newRow("one unit") << "THALVEX 2";
+        QTest::newRow("many units") << "THALVEX 4";
+    }
+    void writesAsTheTreeWould()
+    {
+        QFETCH(QString, product);
+        QJsonArray logs;
+        const QStringList odd{"", "24.1", "---", "\"", "\\", "a\nb\t\r\x01\x7f", "°C ç", QString::fromUcs4(U"\U0001F321"),
+                              QString(QChar(0xD800)), "</script>"};
+        for (const QString &text : odd) {
+            const QJsonObject unit{{"wetTemperature", text}, {"globeTemperature", "1"}, {"IBUTGi", text},
+                                   {"WBGTo", text}, {"waterLevel", -3}};
+            QJsonObject log = unit;
+            log["date"] = "21/03/05,14:30:00-12";
+            log["enviromentalFactorsList"] = logs.size() % 2 ? QJsonArray{unit, unit} : QJsonArray();
+            logs.append(log);
+        }
+        for (const QJsonArray &list : {logs, QJsonArray()}) {
+            const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(product));
+            experiment->fromJson({{"logList", list}, {"expName", odd[5]}, {"index", "7"}}, product);
+            for (const auto format : {QJsonDocument::Compact, QJsonDocument::Indented}) {
+                JsonText text(format);
+                experiment->writeText(text);
+                QCOMPARE(text.document(), QJsonDocument(experiment->toJson()).toJson(format));
+            }
+        }
     }
 
     void readsValues()
