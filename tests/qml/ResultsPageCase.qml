@@ -1,0 +1,285 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import QtTest 1.15
+import "items.js" as Items
+
+/// What every results page of a heat-stress meter does; a family gives its page, an experiment and what it expects.
+Item {
+    id: testWindow
+
+    property Component page
+    property string product
+    /// An experiment of the family with the records of records(), as the controller writes it.
+    property var experiment
+    /// The view that shows the records of the page.
+    property var viewOf
+    property string indoorRole
+    property string outdoorRole
+    /// The lines of the data block, the texts of the result boxes.
+    property var infoTexts: []
+    property var resultTexts: []
+    property int reportWidth
+    /// The visible boxes of the report window in order: {key, gone: the keys that go when it is off}.
+    property var boxes: []
+    property alias testCase: testCase
+
+    width: 1260
+    height: 670
+
+    /// Three readings: a plain one; texts that are no numbers; one without a date.
+    function records() {
+        return [
+            { date: "21/03/05,14:30:00-12", values: ["24.1", "30.2", "31.0", "25.9", "25.6"] },
+            { date: "21/03/05,14:31:00-12", values: ["", "LOW", "32.0", "26.0", "1234.5"] },
+            { date: "+00", values: ["20.0", "20.0", "20.0", "20.0", "20.0"] }
+        ]
+    }
+
+    function quantities(values) {
+        var part = { wetTemperature: values[0], dryTemperature: values[1], globeTemperature: values[2] }
+        part[indoorRole] = values[3]
+        part[outdoorRole] = values[4]
+        return part
+    }
+
+    readonly property var figures: ({ wetTMax: 24.1, wetTMin: 20, dryTMax: 30.25, dryTMin: 20, globeTMax: 32, globeTMin: 20 })
+    readonly property var timing: ({ duration: "00:03:00", pauseTime: "00:00:10", sampleTime: 60, unity: "°C" })
+
+    TestCase {
+        id: testCase
+
+        property var made: null
+
+        name: "results"
+        when: windowShown
+        visible: true
+        width: testWindow.width
+        height: testWindow.height
+
+        SignalSpy { id: shown; signalName: "showResults" }
+
+        function init() {
+            core.reset()
+            made = createTemporaryObject(testWindow.page, testCase, { width: width, height: height })
+            verify(made)
+            shown.target = made
+            shown.clear()
+        }
+
+        function show(position, change) {
+            var experiment = testWindow.experiment()
+            if (change)
+                change(experiment)
+            core.experiment = JSON.stringify(experiment)
+            core.experimentUpdated(position === undefined ? -3 : position)
+        }
+
+        function view() { return testWindow.viewOf(made) }
+
+        /// Items are where a user sees them once a frame was drawn.
+        function drawn(item) {
+            item.Window.window.requestUpdate()
+            waitForRendering(item)
+        }
+
+        function clickOn(property, value, where) {
+            var item = Items.first(where || made, property, value)
+            verify(item, value)
+            drawn(item)
+            mouseClick(item)
+        }
+
+        function test_whoseExperiment_data() {
+            var own = JSON.stringify(testWindow.experiment())
+            var foreign = own.replace(testWindow.product, "NEMBRA+")
+            var quoted = '{"a": "\\"deviceName\\": \\"' + testWindow.product + '\\"", "deviceName": "ZELK", "logList": []}'
+            var lengthy = "\"date\":\"" + new Array(400).join("x") + "\","
+            return [
+                { tag: "own", text: own, shown: 1 },
+                { tag: "indented", text: JSON.stringify(testWindow.experiment(), null, 4), shown: 1 },
+                { tag: "own, with a long text in front", text: own.replace("{", "{" + lengthy), shown: 1 },
+                { tag: "own, with a part in front", text: own.replace("{", '{"a":{"deviceName":"ZELK"},'), shown: 1 },
+                { tag: "foreign", text: foreign, shown: 0 },
+                { tag: "foreign, with a long text in front", text: foreign.replace("{", "{" + lengthy), shown: 0 },
+                { tag: "foreign, with the product in a text", text: quoted, shown: 0 },
+                { tag: "no experiment", text: "", shown: 0 },
+                { tag: "no JSON", text: "{\"date\": ", shown: 0 }
+            ]
+        }
+        function test_whoseExperiment(row) {
+            core.experiment = row.text
+            core.experimentUpdated(-3)
+            compare(shown.count, row.shown)
+            compare(made.viewItem !== null, row.shown === 1)
+        }
+
+        function test_dataBlock() {
+            show()
+            compare(Items.texts(made.infoItem), testWindow.infoTexts)
+            show(-3, function (experiment) { experiment.date = ""; experiment.results.duration = "" })
+            var texts = Items.texts(made.infoItem)
+            compare(texts[3], "---")
+            compare(texts[5], "---")
+        }
+
+        function test_table() {
+            show()
+            var table = view().table, heads = []
+            for (var i = 0; i < table.columnCount; ++i)
+                heads.push(table.getColumn(i).title)
+            compare(heads, ["Hour", "T<sub>wet</sub> [°C]", "T<sub>dry</sub> [°C]", "T<sub>globe</sub> [°C]",
+                            "WBGT<sub>i</sub> [°C]", "WBGT<sub>o</sub> [°C]"])
+            var rows = table.rows.map(function (record) {
+                return heads.map(function (head, i) { return table.cellText(record, table.getColumn(i).role) }).join("|")
+            })
+            compare(rows, ["14:30:00|24.10|30.20|31.00|25.90|25.60", "14:31:00|---|LOW|32.00|26.00|1,234.50",
+                           "---|20.00|20.00|20.00|20.00|20.00"])
+            compare(table.rowCount, 3)
+            tryVerify(function () { return Items.texts(table).indexOf("1,234.50") >= 0 }, 5000, "cells are drawn")
+        }
+
+        function test_chartTab() {
+            show()
+            clickOn("text", "Temperature x Time")
+            tryVerify(function () { return view().temperatureChart })
+            var chart = view().temperatureChart
+            compare(chart.title, "Temperature x Time")
+            compare(chart.valueTitle, "Temperature [°C]")
+            compare(chart.seriesCount, 5)
+            compare(chart.drawnSeries(0).name, "T<sub>wet</sub> [°C]")
+            compare(chart.drawnSeries(4).name, "WBGT<sub>o</sub> [°C]")
+            compare(chart.times.length, 2)          // the third has no place in time
+            compare(chart.drawnSeries(0).count, 1)
+            compare(chart.drawnSeries(2).at(1).y, 32)
+            var first = new Date("2021-03-05T14:30:00-03:00").getTime()
+            compare(chart.from, first - 60000)
+            compare(chart.to, first + 120000)
+            show(-3, function (experiment) { experiment.logList = [] })
+            compare(chart.seriesCount, 5)
+            compare(chart.drawnSeries(0).count, 0)
+        }
+
+        function test_resultsTab() {
+            show()
+            clickOn("text", "Results")
+            tryCompare(view(), "currentTab", 2)
+            var boxes = []
+            for (var i = 0; i < 5; ++i)
+                boxes.push(Items.texts(view().resultItems.itemAt(i)))
+            compare(boxes, testWindow.resultTexts)
+        }
+
+        function test_tabsByKeyboard() {
+            show()
+            Items.first(made, "text", "Temperature x Time").forceActiveFocus(Qt.TabFocusReason)
+            keyClick(Qt.Key_Space)
+            tryCompare(view(), "currentTab", 1)
+        }
+
+        function test_arrows_data() {
+            return [{ tag: "no experiment", position: -4, left: false, right: false },
+                    { tag: "the only one", position: -3, left: false, right: false },
+                    { tag: "first", position: -2, left: false, right: true },
+                    { tag: "last", position: -1, left: true, right: false },
+                    { tag: "middle", position: 0, left: true, right: true }]
+        }
+        function test_arrows(row) {
+            show(-3)
+            core.resultsUpdated(row.position)
+            drawn(made)
+            var left = Items.first(made, "label", "Previous experiment")
+            var right = Items.first(made, "label", "Next experiment")
+            compare([left !== null, right !== null], [row.left, row.right])
+            var calls = []
+            if (left) { mouseClick(left); calls.push(["prevExp"]) }
+            if (right) { mouseClick(right); calls.push(["nextExp"]) }
+            compare(core.calls, calls)
+        }
+
+        function report() {
+            show()
+            clickOn("buttonLabel", "Generate report")
+            tryCompare(made.reportItem, "visible", true)
+            drawn(made.reportItem.contentItem)
+            return made.reportItem
+        }
+
+        function reportBoxes() {
+            return Items.all(made.reportItem.contentItem, function (item) {
+                return item.checkState !== undefined
+            })
+        }
+
+        function submitted() {
+            core.calls = []
+            clickOn("buttonLabel", "Generate PDF", made.reportItem.contentItem)
+            return core.calls.length > 0 ? JSON.parse(core.calls[0][1]) : null
+        }
+
+        function pickFile() {
+            Items.all(made.reportItem.contentItem, function (item) { return item.pick && item.nameFilters })[0]
+                .pick("file:///tmp/a b/100%25 n%231.pdf")
+        }
+
+        function test_report() {
+            var window = report(), everything = {}
+            compare(window.width, testWindow.reportWidth)
+            compare(submitted(), null)
+            verify(Items.texts(window.contentItem).indexOf("File name shall not be empty") >= 0)
+
+            pickFile()
+            Items.all(window.contentItem, function (item) { return item.labelWidth !== undefined })
+                .forEach(function (field, i) { field.text = "text " + i })
+            testWindow.boxes.forEach(function (box) { everything[box.key] = true })
+            Object.assign(everything, {
+                cmpnyName: "text 0", siteName: "text 1", ownCompany: "text 2", collectorName: "text 3", repName: "text 4",
+                repIdReg: "text 5", logoFile: "", obsText: "", fileName: "/tmp/a b/100% n#1.pdf"
+            })
+            compare(sorted(submitted()), sorted(everything))
+            verify(Items.texts(window.contentItem).indexOf("File name shall not be empty") < 0)
+        }
+
+        function sorted(object) {
+            return Object.keys(object).sort().map(function (key) { return key + "=" + object[key] })
+        }
+
+        function test_reportSwitch_data() {
+            return testWindow.boxes.map(function (box, i) { return { tag: box.key, place: i, gone: box.gone || [] } })
+        }
+        function test_reportSwitch(row) {
+            report()
+            pickFile()
+            var everything = submitted()
+            compare(reportBoxes().length, testWindow.boxes.length)
+            mouseClick(reportBoxes()[row.place], 8, 12)
+            var cfg = submitted()
+            compare(cfg[row.tag], false)
+            everything[row.tag] = false
+            row.gone.forEach(function (key) {
+                verify(key in everything, key)
+                delete everything[key]
+            })
+            compare(sorted(cfg), sorted(everything))
+
+            made.reportItem.close()
+            clickOn("buttonLabel", "Generate report")
+            verify(reportBoxes().every(function (box) { return box.checked }), "all are on again")
+        }
+
+        function test_reportFails() {
+            report()
+            pickFile()
+            core.codes = { generateReport: -1 }
+            submitted()
+            tryCompare(made.dialogs.printerErrorDialog, "visible", true)
+            made.dialogs.printerErrorDialog.close()
+        }
+
+        function test_disconnectedClosesReport() {
+            var window = report()
+            core.deviceDisconnected()
+            compare(window.visible, false)
+        }
+    }
+}

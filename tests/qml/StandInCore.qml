@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+
+/// What the pages see of the controller: it remembers what it was asked and answers with the codes set before.
+QtObject {
+    property string experiment
+    property string devName
+    property string configuration
+    property var deviceList: []
+    property var experimentList: []
+    /// The calls in order, each the name and the arguments, and the code for a name (0 unless set).
+    property var calls: []
+    property var codes: ({})
+
+    signal experimentUpdated(int position)
+    signal resultsUpdated(int position)
+    signal configurationUpdated()
+    signal progressBarUpdated(double progress)
+    signal eraseStarted()
+    signal deviceDisconnected()
+    signal unsupportedDevice()
+    signal findDeviceFinished()
+    signal findingDevices(double progress)
+    signal fileReadStarted()
+    signal fileReadFinished()
+    signal invalidFile()
+
+    function reset() {
+        experiment = ""
+        calls = []
+        codes = {}
+    }
+
+    function called(name, argument) {
+        calls = calls.concat([argument === undefined ? [name] : [name, argument]])
+        return codes[name] || 0
+    }
+
+    function nextExp() { called("nextExp") }
+    function prevExp() { called("prevExp") }
+    function generateReport(cfg) { return called("generateReport", cfg) }
+    function acquireConfiguration() { return called("acquireConfiguration") }
+    function sndConfiguration(cfg) { return called("sndConfiguration", cfg) }
+    function createExperiment(list) { return called("createExperiment", list) }
+    function saveExperimentToFile(name) { return called("saveExperimentToFile", String(name)) }
+    function eraseMemory() { return called("eraseMemory") }
+    function createDevice(index) { return called("createDevice", index) }
+    function setTimeNow() { return called("setTimeNow") }
+    function findExperiments() { return called("findExperiments") }
+    function findDevices() { called("findDevices") }
+    function parseFile(name) { called("parseFile", String(name)) }
+}

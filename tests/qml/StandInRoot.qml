@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "qrc:/qml/local.js" as Local
+
+/// What the pages see of the shell: codes, numbers and dates.
+QtObject {
+    readonly property int deviceDisconnected: -3
+    readonly property int deviceBusy: -2
+    readonly property int deviceError: -1
+    readonly property int deviceSuccessful: 0
+    readonly property int expEmptyList: -4
+    readonly property int expUniqueItem: -3
+    readonly property int expFirstItem: -2
+    readonly property int expLastItem: -1
+    readonly property int expMiddleItem: 0
+
+    function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
+    function convertDateTimeATToLocalTimeString(date) { return Local.dateTime(date) }
+    function leftPad(number, targetLength) { return Local.leftPad(number, targetLength) }
+}

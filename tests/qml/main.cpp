@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Runs the tests written in QML. The pages find "core", "root" and the fonts' names as they do in the suite's window.
+#include "app/fonts.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QtQuickTest>
+
+/// Puts the stand-ins beside this file where the pages look for the real ones.
+class StandIns : public QObject
+{
+    Q_OBJECT
+
+public slots:
+    void qmlEngineAvailable(QQmlEngine *engine)
+    {
+        loadApplicationFonts();
+        QQmlContext *context = engine->rootContext();
+        context->setContextProperty(QStringLiteral("fontSans"), QVariantMap{{QStringLiteral("name"), QStringLiteral("FreeSans")}});
+        context->setContextProperty(QStringLiteral("fontMorvane"), QVariantMap{{QStringLiteral("name"), QStringLiteral("FreeSans")}});
+        stand(engine, QStringLiteral("core"), QStringLiteral("StandInCore.qml"));
+        stand(engine, QStringLiteral("root"), QStringLiteral("StandInRoot.qml"));
+    }
+
+private:
+    void stand(QQmlEngine *engine, const QString &name, const QString &file)
+    {
+        const QString path = QFileInfo(QStringLiteral(__FILE__)).dir().filePath(file);
+        QQmlComponent component(engine, QUrl::fromLocalFile(path));
+        QObject *object = component.create();
+        if (!object)
+            qFatal("%s", qPrintable(component.errorString()));
+        object->setParent(engine);
+        engine->rootContext()->setContextProperty(name, object);
+    }
+};
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    StandIns standIns;
+    return quick_test_main_with_setup(argc, argv, "qml", nullptr, &standIns);
+}
+
+#include "main.moc"
