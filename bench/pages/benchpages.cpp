@@ -1,0 +1,271 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// Speed of the results pages in the suite's own window, as ratios to floors that are measured in the same run.
+// Elapsed times until the next frame is on screen, medians. Wants a display, and TZ set to one value.
+#include "app/core.h"
+#include "app/fonts.h"
+#include "app/suite.h"
+#include "model/vffile.h"
+#include "tests/report/measurements.h"
+
+#include <QApplication>
+#include <QCryptographicHash>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QJsonDocument>
+#include <QQmlApplicationEngine>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlExpression>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTimer>
+
+#include <algorithm>
+#include <cstdio>
+#include <functional>
+#include <memory>
+
+namespace {
+
+constexpr int day = 86400;
+constexpr int repetitions = 5;
+
+enum Tab { Table, Chart };
+
+double median(int times, const std::function<double()> &measure)
+{
+    std::vector<double> results;
+    for (int i = 0; i < times; ++i)
+        results.push_back(measure());
+    std::sort(results.begin(), results.end());
+    return results[results.size() / 2];
+}
+
+double elapsed(const std::function<void()> &work)
+{
+    QElapsedTimer timer;
+    timer.start();
+    work();
+    return double(timer.nsecsElapsed()) / 1e6;
+}
+
+/// Medians of two measures taken in turn, so that what else the machine does meets both.
+std::pair<double, double> inTurn(const std::function<double()> &floor, const std::function<double()> &measure)
+{
+    std::vector<double> floors;
+    const double measured = median(repetitions, [&] {
+        floors.push_back(floor());
+        return measure();
+    });
+    std::sort(floors.begin(), floors.end());
+    return {floors[floors.size() / 2], measured};
+}
+
+void row(const char *what, double floor, double measured, const char *goal, const char *unit = "ms")
+{
+    std::printf("%-58s | %9.2f %-2s | %9.2f %-2s | %6.2f | %s\n", what, floor, unit, measured, unit, measured / floor,
+                goal);
+    std::fflush(stdout);
+}
+
+/// A file of a measurement of \a samples records, one per second.
+QString fileOf(const QTemporaryDir &dir, bool larger, int samples, int expansions)
+{
+    Measurements::Course course;
+    course.samples = samples;
+    course.interval = 1;
+    course.expansions = expansions;
+    const ExperimentChain chain = larger ? Measurements::thalvex4(course) : Measurements::thalvex2(course);
+    const QString product = larger ? QStringLiteral("THALVEX 4") : QStringLiteral("THALVEX 2");
+    VfFile file(dir.filePath(QString::number(samples) + (larger ? QStringLiteral(".tv4") : QStringLiteral(".tvx"))));
+    if (!file.save(VfFile::contentFor({{QStringLiteral("name"), product}}, chain.get())))
+        qFatal("no room for the file of a measurement");
+    return file.fileName();
+}
+
+/// The suite's window with one measurement open.
+class Bench
+{
+public:
+    Bench()
+    {
+        loadMainWindow(m_engine, core);
+        window = qobject_cast<QQuickWindow *>(m_engine.rootObjects().value(0));
+        if (!window)
+            qFatal("no window");
+        root = window->contentItem()->childItems().value(0);
+        settle();
+    }
+
+    QQuickItem *page(const char *product, QObject *below)
+    {
+        for (QQuickItem *item : below->findChildren<QQuickItem *>()) {
+            if (item->property("productName") == QLatin1String(product)
+                && item->metaObject()->indexOfSignal("showResults()") >= 0)
+                return item;
+        }
+        qFatal("no page of %s", product);
+    }
+
+    /// What \a script gives with \a page as scope.
+    QVariant run(QObject *scope, const char *script)
+    {
+        QQmlExpression expression(qmlContext(scope), scope, QLatin1String(script));
+        const QVariant result = expression.evaluate();
+        if (expression.hasError())
+            qFatal("%s", qPrintable(expression.error().toString()));
+        return result;
+    }
+
+    void settle(int ms = 150)
+    {
+        QEventLoop loop;
+        QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+        loop.exec();
+    }
+
+    /// Milliseconds of \a work until its outcome is on screen.
+    double untilFrame(const std::function<void()> &work)
+    {
+        settle();
+        return elapsed([&] {
+            work();
+            QEventLoop loop;
+            QObject::connect(window, &QQuickWindow::frameSwapped, &loop, &QEventLoop::quit, Qt::QueuedConnection);
+            window->update();
+            loop.exec();
+        });
+    }
+
+    void open(const QString &file) { core.parseFile(file); }
+
+    double show()
+    {
+        return untilFrame([this] { emit core.experimentUpdated(-3); });
+    }
+
+    double parse()
+    {
+        QJSValue parser = m_engine.evaluate(QStringLiteral("(function (text) { return JSON.parse(text).logList.length })"));
+        return elapsed([&] { parser.call({QJSValue(core.experiment())}); });
+    }
+
+    Core core;
+    QQuickWindow *window = nullptr;
+    QQuickItem *root = nullptr;
+
+private:
+    QQmlApplicationEngine m_engine;
+};
+
+/// "Open file" until the chart is on screen, against reading the file and the text once.
+void openFile(Bench &bench, const QString &name)
+{
+    const auto [floor, measured] = inTurn([&] {
+        return bench.parse() + elapsed([&] {
+            QFile file(name);
+            if (!file.open(QIODevice::ReadOnly))
+                qFatal("no file");
+            const QByteArray text = file.readAll().split('\n').value(0);
+            (void)QCryptographicHash::hash(text, QCryptographicHash::Md5);
+            (void)QJsonDocument::fromJson(QByteArray::fromBase64(text));
+        });
+    }, [&] { return bench.untilFrame([&] { bench.open(name); }); });
+    row("from a file to the painted chart, 86,400 records", floor, measured, "<= 5");
+}
+
+void resultsPage(const QTemporaryDir &dir, bool larger)
+{
+    const char *product = larger ? "THALVEX 4" : "THALVEX 2";
+    const char *view = larger ? "viewItem.currentView" : "viewItem";
+    const auto script = [view](const char *call) -> QByteArray { return QByteArray(view) + '.' + call; };
+    const QString small = fileOf(dir, larger, 1000, 3);
+    const QString middle = fileOf(dir, larger, 10000, 3);
+    const QString large = fileOf(dir, larger, day, 3);
+    std::printf("%s%s\n", product, larger ? ", four units" : "");
+
+    Bench bench;
+    QQuickItem *page = bench.page(product, bench.root);
+    bench.open(large);
+    const auto parse = [&] { return bench.parse(); };
+    const auto show = [&] { return bench.show(); };
+    const auto [tableFloor, withTable] = inTurn(parse, show);
+    row("results page with its table, 86,400 records", tableFloor, withTable, "<= 4");
+    bench.run(page, script("setTab(1)").constData());
+    bench.settle(800);
+    const auto [chartFloor, whole] = inTurn(parse, show);
+    row("results page with its chart, 86,400 records", chartFloor, whole, "<= 4");
+
+    // Hovering: the pointer asks for the nearest record.
+    const auto hover = [&] {
+        const QByteArray body = "(function () { var chart = " + QByteArray(view) + ".temperatureChart;"
+            " for (var i = 0; i < 200; ++i) chart.pointAt(100 + 4 * i, 150) })()";
+        return median(repetitions, [&] { return elapsed([&] { bench.run(page, body.constData()); }) / 200; });
+    };
+    const double hoverLarge = hover();
+    const int columns = bench.run(page, script("temperatureChart.drawnColumns").constData()).toInt();
+    int most = 0;
+    for (int k = 0; k < 5; ++k) {
+        const QByteArray count = script("temperatureChart.drawnSeries(") + QByteArray::number(k) + ").count";
+        most = std::max(most, bench.run(page, count.constData()).toInt());
+    }
+    row("chart, points of a curve (floor: columns of 2 pixels)", columns, most, "<= 2", "");
+
+    if (!larger) {
+        openFile(bench, large);
+        // As many pages as the suite will have, all hearing of it: five more, which are gone in every other turn.
+        QQmlComponent sister(qmlEngine(bench.root));
+        sister.setData("import \"qrc:/thalvex4/qml\"\nPageThalvex4Results { visible: false }", QUrl());
+        std::vector<std::unique_ptr<QObject>> sisters;
+        const auto [alone, together] = inTurn([&] {
+            sisters.clear();
+            return bench.show();
+        }, [&] {
+            for (int i = 0; i < 5; ++i)
+                sisters.emplace_back(sister.create(qmlContext(page)));
+            if (!sisters.front())
+                qFatal("%s", qPrintable(sister.errorString()));
+            return bench.show();
+        });
+        row("seven results pages hear of it, against two", alone, together, "<= 1.1");
+    }
+
+    bench.run(page, script("setTab(0)").constData());
+    bench.settle(800);
+    const auto setTable = [&] {
+        const QByteArray fill = script("table.show(experiment.logList)");
+        return median(repetitions, [&] { return bench.untilFrame([&] { bench.run(page, fill.constData()); }); });
+    };
+    const double tableLarge = setTable();
+    const double bare = median(9, [&] { return bench.untilFrame([] {}); });
+    const double scroll = median(15, [&] {
+        return bench.untilFrame([&] { bench.run(page, script("table.flickableItem.contentY += 60").constData()); });
+    });
+
+    bench.open(middle);
+    bench.run(page, script("setTab(1)").constData());
+    bench.settle(800);
+    row("growth from 10,000 to 86,400 records, with the chart", median(repetitions, show), whole, "<= 9");
+    bench.open(small);
+    row("hover, one pointing, 86,400 records against 1,000", hover(), hoverLarge, "<= 3, and 2 ms");
+    bench.run(page, script("setTab(0)").constData());
+    bench.settle(800);
+    row("table, setting it, 86,400 rows against 1,000", setTable(), tableLarge, "<= 1.5");
+    row("table, scrolling by 60 pixels (floor: a bare frame)", bare, scroll, "<= 3");
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    QApplication application(argc, argv);
+    loadApplicationFonts();
+    if (qEnvironmentVariableIsEmpty("TZ"))
+        std::printf("TZ is not set: every local time is looked up anew, and the ratios say little.\n");
+    std::printf("%-58s | %12s | %12s | %6s | %s\n", "what", "floor", "measured", "ratio", "goal");
+    const QTemporaryDir dir;
+    resultsPage(dir, false);
+    resultsPage(dir, true);
+    return 0;
+}
