@@ -2,15 +2,13 @@
 // The controller from scan to file: codes, signals in their order, and what the pages then read.
 
 #include "tests/app/pluggedcore.h"
+#include "tests/link/processortime.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSignalSpy>
 #include <QTemporaryDir>
-#include <QTimer>
 #include <QtTest>
-
-#include <ctime>
 
 namespace {
 
@@ -175,11 +173,7 @@ private slots:
         QCOMPARE(plugged.found(), 1);
         plugged.instrument.unplug();
         QCoreApplication::processEvents();
-        const std::clock_t before = std::clock();
-        QEventLoop wait;
-        QTimer::singleShot(300, &wait, &QEventLoop::quit);
-        wait.exec();
-        const double busy = double(std::clock() - before) / CLOCKS_PER_SEC;
+        const double busy = processorTimeAtRest(300);
         QVERIFY2(busy < 0.1, qPrintable(QString("%1 s of 0.3 s").arg(busy)));
         QCOMPARE(plugged.core.createDevice(0), -3);
         QCOMPARE(plugged.found(), 0);
