@@ -54,7 +54,11 @@ Window {
     minimumHeight: height
     width: 850
     height: 550
-    onVisibleChanged: values = ReportKeys.allOn(rows, values)
+    onVisibleChanged: {
+        values = ReportKeys.allOn(rows, values)
+        x = Screen.virtualX + Math.max(0, Screen.width - width) / 2
+        y = Screen.virtualY + Math.max(0, Screen.height - height) / 2
+    }
 
     Shortcut { sequence: StandardKey.Cancel; onActivated: window.close() }
 

@@ -28,10 +28,25 @@ VfPage {
     /// A family hands the experiment to its view, which has a function forget() too.
     function fill(parsed) {}
 
+    /// Every results page hears of every experiment, and even to look at a long text costs. The page of the session's
+    /// product looks at once; the others look only when the experiment turned out not to be that page's.
     function update(position) {
-        var text = core.experiment.toString()
-        // Every results page hears of every experiment; only its own page reads more than the head of a long text.
-        if (Experiments.deviceName(text) !== productName)
+        if (!core.devName || core.devName === productName)
+            take(position)
+        else
+            Qt.callLater(takeLeft, position)
+    }
+
+    function takeLeft(position) {
+        if (Experiments.taken !== core.devName)
+            take(position)
+    }
+
+    function take(position) {
+        var text = core.experiment.toString(), own = Experiments.deviceName(text) === productName
+        if (core.devName === productName)
+            Experiments.taken = own ? productName : ""
+        if (!own)
             return
         // Records are many: let go of the old ones first.
         experiment = null

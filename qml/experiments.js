@@ -4,6 +4,9 @@
 
 var absent = "---"
 
+// The product of the session's instrument while its own page shows the experiment; "" while that is another's.
+var taken = ""
+
 // The product of an experiment's JSON text, read from its head: the keys are sorted, and a day of records is a long text.
 // Only where the head does not tell (a very long name in front) is the whole text parsed.
 function deviceName(text) {

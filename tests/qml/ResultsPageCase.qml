@@ -114,6 +114,24 @@ Item {
             compare(made.viewItem !== null, row.shown === 1)
         }
 
+        function test_sessionOfAnother_data() {
+            return [{ tag: "with an experiment of its own", device: "ZELK", text: "ZELK", shown: 0 },
+                    { tag: "with one of this page's", device: "ZELK", text: testWindow.product, shown: 1 }]
+        }
+        function test_sessionOfAnother(row) {
+            core.devName = row.device
+            core.experiment = JSON.stringify(testWindow.experiment()).replace(testWindow.product, row.text)
+            core.experimentUpdated(-3)
+            var later = false
+            Qt.callLater(function () { later = true })
+            tryVerify(function () { return later })
+            tryCompare(shown, "count", row.shown)
+            // In a session of its own the page looks again.
+            core.devName = testWindow.product
+            core.experimentUpdated(-3)
+            compare(shown.count, 2 * row.shown)
+        }
+
         function test_dataBlock() {
             show()
             compare(Items.texts(made.infoItem), testWindow.infoTexts)

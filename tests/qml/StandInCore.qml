@@ -27,6 +27,7 @@ QtObject {
 
     function reset() {
         experiment = ""
+        devName = ""
         calls = []
         codes = {}
     }
