@@ -11,5 +11,6 @@ VfExperimentItem {
     }
 
     text: modelData.index + ":"
-    lines: ownLines.concat(qsTr("Date") + ": " + dateText(modelData.dateTime), qsTr("Size") + ": " + modelData.size)
+    lines: ownLines.concat({ text: qsTr("Date") + ": " + dateText(modelData.dateTime), width: 360 },
+                           { text: qsTr("Size") + ": " + modelData.size })
 }

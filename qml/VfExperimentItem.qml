@@ -8,11 +8,12 @@ VfListItem {
     id: item
 
     property string text
+    /// What stands beside it: [{text, width}]; a line without a width takes what it needs.
     property var lines: []
     property bool checkable: false
     property bool checked: false
 
-    description: [text].concat(lines).join(" ")
+    description: [text].concat(lines.map(function (line) { return line.text })).join(" ")
     onItemClicked: if (checkable) checked = !checked
     Accessible.checkable: checkable
     Accessible.checked: checked
@@ -36,8 +37,10 @@ VfListItem {
         model: item.lines
         VfText {
             anchors.verticalCenter: parent.verticalCenter
+            width: modelData.width || implicitWidth
             color: item.textColor
-            text: modelData
+            elide: Text.ElideRight
+            text: modelData.text
             textFormat: Text.PlainText
         }
     }

@@ -8,7 +8,7 @@ Rectangle {
 
     readonly property bool selected: ListView.isCurrentItem
     readonly property bool hovered: area.containsMouse
-    readonly property color textColor: selected ? Theme.textOnDark : Theme.text
+    readonly property color textColor: selected ? Theme.textOnDark : hovered ? "black" : Theme.text
     /// What the item says to those who cannot see it.
     property string description
     default property alias content: row.data

@@ -2,5 +2,5 @@
 import "../../qml"
 
 HeatStressExperimentItem {
-    ownLines: modelData.exp_Name === undefined ? [] : [modelData.exp_Name]
+    ownLines: modelData.exp_Name === undefined ? [] : [{ text: modelData.exp_Name, width: 200 }]
 }
