@@ -95,8 +95,8 @@ int openRaw(const QString &port)
 
 void exchanges(const char *family, const QString &name)
 {
-    constexpr int Turns = 4;
-    constexpr int Exchanges = 500;
+    constexpr int Turns = 20;
+    constexpr int Exchanges = 100;
     const Instrument instrument(family, Exchanges * 10, 0);
     std::vector<double> raw;
     std::vector<double> ours;
