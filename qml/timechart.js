@@ -40,21 +40,25 @@ function number(text) {
 // reading(record) is the part of a record with the texts of the roles. A value that is no number is NaN: it is not drawn
 // and not pointed at.
 function readings(records, moment, roles, reading) {
-    var times = [], sorted = true, values = roles.map(function () { return [] })
+    // Arrays of plain numbers: the engine's garbage collection does not walk them.
+    var times = new Float64Array(records.length), count = 0, sorted = true, last = -Infinity
+    var values = roles.map(function () { return new Float64Array(records.length) })
     var known = {}      // a day of records repeats a few hundred texts
     for (var i = 0; i < records.length; ++i) {
-        var time = moment(records[i].date)
+        var record = records[i], time = moment(record.date)
         if (time !== time)
             continue
-        sorted = sorted && !(time < times[times.length - 1])
-        times.push(time)
-        var part = reading(records[i])
+        sorted = sorted && time >= last
+        last = times[count] = time
+        var part = reading(record)
         for (var k = 0; k < roles.length; ++k) {
             var text = part[roles[k]], value = known[text]
-            values[k].push(value === undefined ? (known[text] = number(text)) : value)
+            values[k][count] = value === undefined ? (known[text] = number(text)) : value
         }
+        ++count
     }
-    return { times: times, sorted: sorted, values: values }
+    return { times: times.subarray(0, count), sorted: sorted,
+             values: values.map(function (curve) { return curve.subarray(0, count) }) }
 }
 
 // What to draw of a curve when the axis from..to has count columns: the lowest and the highest point of each column, in
@@ -99,10 +103,13 @@ function columns(xs, ys, count, from, to) {
 
 // The place of the record that is nearest in time, -1 when there is none.
 function nearest(times, sorted, time) {
-    if (!sorted)
-        return times.reduce(function (best, t, i) {
-            return best < 0 || Math.abs(t - time) < Math.abs(times[best] - time) ? i : best
-        }, -1)
+    if (!sorted) {
+        var best = -1
+        for (var i = 0; i < times.length; ++i)
+            if (best < 0 || Math.abs(times[i] - time) < Math.abs(times[best] - time))
+                best = i
+        return best
+    }
     var low = 0, high = times.length - 1
     while (low < high) {
         var middle = (low + high) >> 1

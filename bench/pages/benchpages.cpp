@@ -175,6 +175,25 @@ void openFile(Bench &bench, const QString &name)
     row("from a file to the painted chart, 86,400 records", floor, measured, "<= 5");
 }
 
+/// As many results pages as the suite will have, all hearing of an experiment: five more, gone in every other turn.
+void sisterPages(Bench &bench, QObject *page)
+{
+    QQmlComponent sister(qmlEngine(bench.root));
+    sister.setData("import \"qrc:/thalvex4/qml\"\nPageThalvex4Results { visible: false }", QUrl());
+    std::vector<std::unique_ptr<QObject>> sisters;
+    const auto [alone, together] = inTurn([&] {
+        sisters.clear();
+        return bench.show();
+    }, [&] {
+        for (int i = 0; i < 5; ++i)
+            sisters.emplace_back(sister.create(qmlContext(page)));
+        if (!sisters.front())
+            qFatal("%s", qPrintable(sister.errorString()));
+        return bench.show();
+    });
+    row("seven results pages hear of it, against two", alone, together, "<= 1.1");
+}
+
 void resultsPage(const QTemporaryDir &dir, bool larger)
 {
     const char *product = larger ? "THALVEX 4" : "THALVEX 2";
@@ -192,6 +211,8 @@ void resultsPage(const QTemporaryDir &dir, bool larger)
     const auto show = [&] { return bench.show(); };
     const auto [tableFloor, withTable] = inTurn(parse, show);
     row("results page with its table, 86,400 records", tableFloor, withTable, "<= 4");
+    if (!larger)
+        sisterPages(bench, page);
     bench.run(page, script("setTab(1)").constData());
     bench.settle(800);
     const auto [chartFloor, whole] = inTurn(parse, show);
@@ -212,24 +233,8 @@ void resultsPage(const QTemporaryDir &dir, bool larger)
     }
     row("chart, points of a curve (floor: columns of 2 pixels)", columns, most, "<= 2", "");
 
-    if (!larger) {
+    if (!larger)
         openFile(bench, large);
-        // As many pages as the suite will have, all hearing of it: five more, which are gone in every other turn.
-        QQmlComponent sister(qmlEngine(bench.root));
-        sister.setData("import \"qrc:/thalvex4/qml\"\nPageThalvex4Results { visible: false }", QUrl());
-        std::vector<std::unique_ptr<QObject>> sisters;
-        const auto [alone, together] = inTurn([&] {
-            sisters.clear();
-            return bench.show();
-        }, [&] {
-            for (int i = 0; i < 5; ++i)
-                sisters.emplace_back(sister.create(qmlContext(page)));
-            if (!sisters.front())
-                qFatal("%s", qPrintable(sister.errorString()));
-            return bench.show();
-        });
-        row("seven results pages hear of it, against two", alone, together, "<= 1.1");
-    }
 
     bench.run(page, script("setTab(0)").constData());
     bench.settle(800);
