@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Window 2.15
 import "."
 
 /// What the program is, whose, and of which version.
-Window {
+VfWindow {
     id: window
 
     readonly property string swName: "Suite Morvane"
@@ -12,16 +11,7 @@ Window {
 
     width: 600
     height: 300
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
     title: qsTr("About") + " " + swName
-    color: Theme.ground
-    flags: Qt.Dialog
-    modality: Qt.ApplicationModal
-
-    Shortcut { sequence: StandardKey.Cancel; onActivated: window.close() }
 
     Image {
         id: icon

@@ -22,9 +22,7 @@ VfPage {
 
     function openAbout() {
         about.active = true
-        about.item.show()
-        about.item.raise()
-        about.item.requestActivate()
+        about.item.present()
     }
 
     pageTitle: qsTr("HOME")

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Window 2.15
 import "."
 
 /// The base of the configuration windows: hears of the configuration of its product and hands on what the user made of
 /// it. A family puts its frames inside and says how they are filled and read.
-Window {
+VfWindow {
     id: window
 
     property string productName
@@ -31,21 +30,6 @@ Window {
 
     width: 600
     height: 340
-    minimumWidth: width
-    maximumWidth: width
-    minimumHeight: height
-    maximumHeight: height
-    color: Theme.ground
-    flags: Qt.Dialog
-    modality: Qt.ApplicationModal
-    onVisibleChanged: {
-        if (!visible)
-            return
-        x = Screen.virtualX + (Screen.width - width) / 2
-        y = Screen.virtualY + (Screen.height - height) / 2
-    }
-
-    Shortcut { sequence: StandardKey.Cancel; onActivated: window.close() }
 
     Row {
         id: frames
@@ -81,8 +65,10 @@ Window {
         target: core
         function onConfigurationUpdated() {
             var configuration = JSON.parse(core.configuration)
-            if (configuration.productName === window.productName)
-                window.fill(configuration)
+            if (configuration.productName !== window.productName)
+                return
+            window.warning = ""
+            window.fill(configuration)
         }
         function onEraseStarted() {
             if (core.devName === window.productName)

@@ -8,10 +8,11 @@ Row {
 
     property alias label: field.label
     property date value
+    readonly property alias calendar: loader.item
 
     function edit() {
-        calendar.active = true
-        calendar.item.show(value)
+        loader.active = true
+        calendar.edit(value)
     }
 
     spacing: Theme.gap
@@ -32,7 +33,7 @@ Row {
     }
 
     Loader {
-        id: calendar
+        id: loader
 
         active: false
         sourceComponent: VfCalendar { onConfirm: input.value = date }

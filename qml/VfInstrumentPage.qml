@@ -31,11 +31,8 @@ VfPage {
     /// Reads the configuration; the window must be there to hear of it.
     function configure() {
         configurationLoader.active = true
-        if (!dialogs.answered(core.acquireConfiguration(), dialogs.rcvCfgErrorDialog))
-            return
-        configuration.showNormal()
-        configuration.raise()
-        configuration.requestActivate()
+        if (dialogs.answered(core.acquireConfiguration(), dialogs.rcvCfgErrorDialog))
+            configuration.present()
     }
 
     function sendConfiguration(cfg) {
@@ -101,6 +98,8 @@ VfPage {
 
             title: qsTr("Save file as")
             selectExisting: false
+            // The ending is known to the dialog, so that it asks before a file of that name is lost.
+            defaultSuffix: page.fileFilter.replace(/[^a-z0-9]/g, "")
             nameFilters: [qsTr("Suite Morvane Files ") + page.fileFilter, qsTr("All files ") + "(*)"]
             onAccepted: page.download(saveDialog.fileUrls)
         }
