@@ -8,6 +8,10 @@ QtObject {
     property string configuration
     property var deviceList: []
     property var experimentList: []
+    readonly property string version: "1.0"
+    readonly property string builtDate: "Oct  9 2019 - 09:37:01"
+    readonly property string builtYear: "2019"
+    readonly property string revision: "716"
     /// The calls in order, each the name and the arguments, and the code for a name (0 unless set).
     property var calls: []
     property var codes: ({})
@@ -28,6 +32,9 @@ QtObject {
     function reset() {
         experiment = ""
         devName = ""
+        configuration = ""
+        deviceList = []
+        experimentList = []
         calls = []
         codes = {}
     }
@@ -44,6 +51,7 @@ QtObject {
     function sndConfiguration(cfg) { return called("sndConfiguration", cfg) }
     function createExperiment(list) { return called("createExperiment", list) }
     function saveExperimentToFile(name) { return called("saveExperimentToFile", String(name)) }
+    function sndCalibration(calib) { return called("sndCalibration", calib) }
     function eraseMemory() { return called("eraseMemory") }
     function createDevice(index) { return called("createDevice", index) }
     function setTimeNow() { return called("setTimeNow") }

@@ -1,0 +1,253 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtTest 1.15
+import "dialogs.js" as Dialogs
+import "items.js" as Items
+
+/// What the page of every connected heat-stress meter does; a family gives its page and what is its own.
+Item {
+    id: testWindow
+
+    property Component page
+    property string product
+    property string title
+    property var nameFilters
+    property int configurationHeight
+    /// The experiments in the instrument's memory, and the texts of the second one's item.
+    property var experiments
+    property var secondTexts
+
+    width: 1260
+    height: 670
+
+    TestCase {
+        id: testCase
+
+        property var made: null
+
+        name: "instrument"
+        when: windowShown
+        visible: true
+        width: testWindow.width
+        height: testWindow.height
+
+        function init() {
+            core.reset()
+            core.devName = testWindow.product
+            core.experimentList = testWindow.experiments
+            made = createTemporaryObject(testWindow.page, testCase, { width: width, height: height })
+            verify(made)
+            waitForRendering(made)
+        }
+
+        function cleanup() {
+            Dialogs.closeAll(made.dialogs)
+            if (made.saveDialog)
+                made.saveDialog.close()
+            if (made.configuration)
+                made.configuration.close()
+        }
+
+        function press(item, label) {
+            var button = Items.first(item, "buttonLabel", label)
+            verify(button, label)
+            mouseClick(button)
+        }
+
+        /// Shows the window with a configuration, as the instrument would be asked for it.
+        function configured(configuration) {
+            press(made, "Configure")
+            core.configuration = JSON.stringify(configuration)
+            core.configurationUpdated()
+            return made.configuration
+        }
+
+        function namesOf(calls) { return calls.map(function (call) { return call[0] }).join(" ") }
+
+        function test_title() { verify(Items.texts(made).indexOf(testWindow.title) >= 0) }
+
+        function test_configure_data() {
+            return [{ tag: "read", code: 0, dialog: "", shown: true },
+                    { tag: "error", code: -1, dialog: "rcvCfgErrorDialog" },
+                    { tag: "busy", code: -2, dialog: "deviceBusyDialog" },
+                    { tag: "disconnected", code: -3, dialog: "devDisconnectedDialog" },
+                    { tag: "unknown code", code: 7, dialog: "" }]
+        }
+
+        function test_configure(row) {
+            core.codes = { acquireConfiguration: row.code }
+            press(made, "Configure")
+            compare(core.calls, [["acquireConfiguration"]])
+            compare(Dialogs.open(made.dialogs), row.dialog)
+            compare(made.configuration.visible, row.shown === true)
+        }
+
+        function test_configurationWindow() {
+            var window = configured({ productName: testWindow.product, unity: "°F", sampleTime: "00:30" })
+            compare([window.width, window.height], [600, testWindow.configurationHeight])
+            compare(window.modality, Qt.ApplicationModal)
+            compare(window.title, testWindow.title + " - Configuration")
+            press(window.contentItem, "Close")
+            verify(!window.visible)
+            press(made, "Configure")
+            verify(made.configuration === window && window.visible)
+            core.deviceDisconnected()
+            verify(!window.visible)
+        }
+
+        function test_fill_data() {
+            return [{ tag: "Fahrenheit", configuration: { unity: "°F", sampleTime: "59:59" }, unit: "°F", time: "59:59" },
+                    { tag: "Celsius", configuration: { unity: "°C", sampleTime: "00:01" }, unit: "°C", time: "00:01" },
+                    { tag: "unknown unit", configuration: { unity: "K", sampleTime: "01:00" }, unit: "", time: "01:00" },
+                    { tag: "another product", configuration: { productName: "ZELK", unity: "°F", sampleTime: "02:00" },
+                      unit: "°C", time: "10:00" }]
+        }
+
+        function test_fill(row) {
+            var window = configured({ productName: testWindow.product, unity: "°C", sampleTime: "10:00" })
+            configured(Object.assign({ productName: testWindow.product }, row.configuration))
+            var ticked = Items.all(window.contentItem, function (item) { return item.checked === true })
+            compare(ticked.map(function (item) { return item.text }).join(), row.unit)
+            verify(Items.first(window.contentItem, "text", row.time))
+        }
+
+        function test_apply_data() {
+            return [{ tag: "longest", time: "59:59", sent: { sampleTime: "59:59", unity: "°C" } },
+                    { tag: "other unit", time: "00:01", pick: "°F", sent: { sampleTime: "00:01", unity: "°F" } },
+                    { tag: "picked twice", time: "00:01", pick: "°C", sent: { sampleTime: "00:01", unity: "°C" } },
+                    { tag: "no unit", time: "01:00", unity: "", sent: { sampleTime: "01:00" } },
+                    { tag: "sixty minutes", time: "60:00" },
+                    { tag: "sixty seconds", time: "00:60" },
+                    { tag: "a digit short", time: "0:30" },
+                    { tag: "empty", time: "" }]
+        }
+
+        function test_apply(row) {
+            var unity = row.unity === undefined ? "°C" : row.unity
+            var window = configured({ productName: testWindow.product, unity: unity, sampleTime: "05:00" })
+            window.sampleTime = row.time
+            if (row.pick)
+                mouseClick(Items.first(window.contentItem, "text", row.pick))
+            core.calls = []
+            press(window.contentItem, "Apply")
+            compare(core.calls.map(function (call) { return [call[0], JSON.parse(call[1])] }),
+                    row.sent ? [["sndConfiguration", row.sent]] : [])
+            compare(window.warning, row.sent ? "" : "The sample time field shall have mm:ss format")
+            compare(Items.texts(window.contentItem).indexOf(window.warning) >= 0, !row.sent)
+        }
+
+        function test_applyAnswered_data() {
+            return [{ tag: "applied", code: 0, dialog: "configSuccesfulDialog" },
+                    { tag: "error", code: -1, dialog: "configErrorDialog" },
+                    { tag: "busy", code: -2, dialog: "deviceBusyDialog" },
+                    { tag: "disconnected", code: -3, dialog: "devDisconnectedDialog" }]
+        }
+
+        function test_applyAnswered(row) {
+            core.codes = { sndConfiguration: row.code }
+            var window = configured({ productName: testWindow.product, unity: "°C", sampleTime: "05:00" })
+            press(window.contentItem, "Apply")
+            compare(Dialogs.open(made.dialogs), row.dialog)
+        }
+
+        function test_erase_data() {
+            return [{ tag: "erased", code: 0, dialog: "eraseSuccessfulDialog" },
+                    { tag: "error", code: -1, dialog: "eraseFailDialog" },
+                    { tag: "busy", code: -2, dialog: "deviceBusyDialog" },
+                    { tag: "disconnected", code: -3, dialog: "devDisconnectedDialog" }]
+        }
+
+        function test_erase(row) {
+            var window = configured({ productName: testWindow.product, unity: "°C", sampleTime: "05:00" })
+            core.calls = []
+            core.codes = { eraseMemory: row.code }
+            press(window.contentItem, "Erase memory")
+            compare(Dialogs.open(made.dialogs), "eraseDialog")
+            compare(core.calls, [])
+            core.devName = "ZELK"
+            core.eraseStarted()
+            compare(Dialogs.open(made.dialogs), "eraseDialog")
+            core.devName = testWindow.product
+            made.dialogs.eraseDialog.close()
+            core.eraseStarted()
+            compare(Dialogs.open(made.dialogs), "eraseInProgressDialog")
+            made.dialogs.eraseDialog.dialog.yes()
+            compare(core.calls, [["eraseMemory"]])
+            compare(Dialogs.open(made.dialogs), row.dialog)
+        }
+
+        function test_list() {
+            compare(made.list.headerlabel, "Experiments")
+            compare(made.list.count, testWindow.experiments.length)
+            compare(Items.texts(made.list.view.itemAtIndex(1)), testWindow.secondTexts)
+            verify(Items.texts(made.list.view.itemAtIndex(2)).indexOf("Date: ---") >= 0)
+        }
+
+        function test_clickPicks() {
+            mouseClick(made.list.view.itemAtIndex(1))
+            compare(made.selectedIdx, [1])
+            verify(made.saveDialog.visible)
+            compare(made.saveDialog.title, "Save file as")
+            compare(Array.from(made.saveDialog.nameFilters), testWindow.nameFilters)
+            verify(!made.saveDialog.selectExisting)
+            compare(core.calls, [])
+            core.experimentList = testWindow.experiments.slice(1)
+            compare(made.selectedIdx, [])
+            compare(made.list.currentIndex, -1)
+        }
+
+        function test_keyboardPicks_data() {
+            return [{ tag: "Return", key: Qt.Key_Return }, { tag: "Space", key: Qt.Key_Space }]
+        }
+
+        function test_keyboardPicks(row) {
+            made.list.view.forceActiveFocus()
+            keyClick(Qt.Key_Down)
+            keyClick(Qt.Key_Down)
+            keyClick(row.key)
+            compare(made.selectedIdx, [1])
+            verify(made.saveDialog.visible)
+        }
+
+        function test_keyboardPresses() {
+            core.codes = { acquireConfiguration: 7 }
+            made.list.view.forceActiveFocus()
+            keyClick(Qt.Key_Tab)
+            keyClick(Qt.Key_Return)
+            keyClick(Qt.Key_Space)
+            compare(namesOf(core.calls), "acquireConfiguration acquireConfiguration")
+        }
+
+        function test_download_data() {
+            return [{ tag: "saved", calls: "createExperiment saveExperimentToFile", dialog: "" },
+                    { tag: "not written", save: -1, calls: "createExperiment saveExperimentToFile", dialog: "" },
+                    { tag: "error", code: -1, calls: "createExperiment", dialog: "downloadFailDialog" },
+                    { tag: "busy", code: -2, calls: "createExperiment", dialog: "deviceBusyDialog" },
+                    { tag: "disconnected", code: -3, calls: "createExperiment", dialog: "devDisconnectedDialog" }]
+        }
+
+        function test_download(row) {
+            core.codes = { createExperiment: row.code || 0, saveExperimentToFile: row.save || 0 }
+            mouseClick(made.list.view.itemAtIndex(2))
+            made.saveDialog.accepted()
+            compare(namesOf(core.calls), row.calls)
+            compare(core.calls[0][1], "[2]")
+            compare(Dialogs.open(made.dialogs), row.dialog)
+            verify(!made.downloading)
+        }
+
+        function test_positionsAreSortedAsNumbers() {
+            made.selectedIdx = [10, 9, 2]
+            made.download(["file:///a%23b.file"])
+            compare(core.calls, [["createExperiment", "[2,9,10]"], ["saveExperimentToFile", "file:///a%23b.file"]])
+        }
+
+        function test_progress() {
+            core.progressBarUpdated(40)
+            compare(made.progress, 40)
+            core.devName = "ZELK"
+            core.progressBarUpdated(80)
+            compare(made.progress, 40)
+        }
+    }
+}

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtTest 1.15
+import "qrc:/qml"
+import "qrc:/qml/local.js" as Local
+import "dialogs.js" as Dialogs
+import "items.js" as Items
+
+/// Dates, numbers and the widgets that no page of a heat-stress meter shows.
+Item {
+    width: 800
+    height: 600
+
+    VfDialogs { id: messages }
+    VfCalibrationFrame { id: calibration; dialogs: messages; width: 500 }
+
+    VfList {
+        id: ticks
+
+        property var clicked: []
+
+        y: 200
+        width: 400
+        height: 300
+        model: [{ name: "one" }, { name: "two" }]
+        delegate: VfExperimentItem { text: modelData.name; checkable: true }
+        onListClicked: clicked = clicked.concat(indexItem)
+    }
+
+    TestCase {
+        name: "widgets"
+        when: windowShown
+        visible: true
+        width: 800
+        height: 600
+
+        function init() { core.reset() }
+        function cleanup() { Dialogs.closeAll(messages) }
+
+        function test_dateTime_data() {
+            return [{ tag: "behind", text: "21/03/05,14:30:00-12", utc: "2021-03-05T17:30:00.000Z" },
+                    { tag: "ahead", text: "21/03/05,00:30:00+04", utc: "2021-03-04T23:30:00.000Z" },
+                    { tag: "half an hour", text: "21/03/05,14:30:00-10", utc: "2021-03-05T17:00:00.000Z" },
+                    { tag: "three quarters", text: "21/03/05,14:30:00+23", utc: "2021-03-05T08:45:00.000Z" },
+                    { tag: "less than an hour", text: "21/03/05,14:30:00-02", utc: "2021-03-05T15:00:00.000Z" },
+                    { tag: "widest", text: "21/03/05,14:30:00+56", utc: "2021-03-05T00:30:00.000Z" },
+                    { tag: "leap day", text: "24/02/29,23:59:59+00", utc: "2024-02-29T23:59:59.000Z" },
+                    { tag: "month 13", text: "21/13/05,14:30:00-12" },
+                    { tag: "no zone", text: "21/03/05,14:30:00" },
+                    { tag: "zone alone", text: "+00" },
+                    { tag: "words", text: "yesterday" }]
+        }
+
+        function test_dateTime(row) {
+            var date = Local.dateTime(row.text)
+            if (row.utc === undefined)
+                verify(isNaN(date))
+            else
+                compare(date.toISOString(), row.utc)
+        }
+
+        function test_emptyDateTime() { compare(Local.dateTime(""), "") }
+
+        function test_numberText_data() {
+            return [{ tag: "text", num: "1234.5", point: "1,234.50", comma: "1.234,50" },
+                    { tag: "rounded", num: 0.125, point: "0.13", comma: "0,13" },
+                    { tag: "negative", num: -7, point: "-7.00", comma: "-7,00" },
+                    { tag: "no number", num: "LOW", point: "LOW", comma: "LOW" }]
+        }
+
+        function test_numberText(row) {
+            compare(Local.numberText(row.num, Qt.locale("en_US")), row.point)
+            compare(Local.numberText(row.num, Qt.locale("pt_BR")), row.comma)
+        }
+
+        function test_leftPad_data() {
+            return [{ tag: "short", number: 7, length: 3, padded: "007" },
+                    { tag: "full", number: 123, length: 3, padded: "123" },
+                    { tag: "longer", number: 1234, length: 2, padded: "1234" }]
+        }
+
+        function test_leftPad(row) { compare(Local.leftPad(row.number, row.length), row.padded) }
+
+        function test_calibration_data() {
+            return [{ tag: "taken", code: 0, dialog: "" },
+                    { tag: "error", code: -1, dialog: "configErrorDialog" },
+                    { tag: "busy", code: -2, dialog: "deviceBusyDialog" },
+                    { tag: "disconnected", code: -3, dialog: "devDisconnectedDialog" }]
+        }
+
+        function test_calibration(row) {
+            core.codes = { sndCalibration: row.code }
+            calibration.certificate = "0123456789ABCDEFG"
+            calibration.date = new Date(Date.UTC(2021, 2, 5, 12))
+            compare(calibration.submitCalib(), row.code)
+            compare(core.calls.map(function (call) { return [call[0], JSON.parse(call[1])] }),
+                    [["sndCalibration", { certification: "0123456789ABCDEF", date: "2021-03-05T12:00:00.000Z" }]])
+            compare(Dialogs.open(messages), row.dialog)
+        }
+
+        function test_calendar() {
+            calibration.date = new Date(2021, 2, 5, 12)
+            verify(Items.first(calibration, "text", calibration.date.toLocaleDateString(Qt.locale(), Locale.ShortFormat)))
+            var input = Items.all(calibration, function (item) { return item.edit !== undefined })[0]
+            input.edit()
+            var calendar = input.calendar
+            verify(calendar.visible)
+            compare([calendar.width, calendar.height], [250, 250])
+            calendar.choose(new Date(2022, 0, 31))
+            verify(!calendar.visible)
+            compare(calibration.date.getTime(), new Date(2022, 0, 31).getTime())
+        }
+
+        function test_ticks() {
+            tryVerify(function () { return ticks.view.itemAtIndex(1) })
+            mouseClick(ticks.view.itemAtIndex(1))
+            mouseClick(ticks.view.itemAtIndex(0))
+            mouseClick(ticks.view.itemAtIndex(0))
+            compare(ticks.clicked, [1, 0, 0])
+            compare([ticks.view.itemAtIndex(0).checked, ticks.view.itemAtIndex(1).checked], [false, true])
+        }
+    }
+}
