@@ -8,6 +8,7 @@ VfFrame {
 
     property alias certificate: certificate.text
     property alias date: date.value
+    property real labelWidth: 80
     /// Where the outcome is told.
     property VfDialogs dialogs
 
@@ -27,12 +28,14 @@ VfFrame {
             id: certificate
 
             label: qsTr("Cal. cert.") + ":"
+            labelWidth: frame.labelWidth
             maximumLength: 16
         }
         VfInputDate {
             id: date
 
             label: qsTr("Date") + ":"
+            labelWidth: frame.labelWidth
         }
     }
 }

@@ -7,6 +7,7 @@ Row {
     id: input
 
     property alias label: field.label
+    property alias labelWidth: field.labelWidth
     property date value
     readonly property alias calendar: loader.item
 

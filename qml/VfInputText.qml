@@ -10,6 +10,8 @@ Row {
     property string label
     /// What the field is for, to those who cannot see it.
     property string description: label
+    /// At least so wide is the label, so that fields below each other begin in one line.
+    property real labelWidth: 0
     property alias text: field.text
     property alias maximumLength: field.maximumLength
     property alias validator: field.validator
@@ -23,6 +25,7 @@ Row {
 
     VfText {
         anchors.verticalCenter: parent.verticalCenter
+        width: Math.max(implicitWidth, input.labelWidth)
         text: input.label
         visible: input.label !== ""
     }
