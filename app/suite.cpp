@@ -44,6 +44,9 @@ int runSuite(int argc, char **argv, PortNames portNames)
     const QFont font(families.value(0), -1, -1, false);
     const auto label = new QLabel(QStringLiteral("V1.0.") + BuildInfo::revision(), &splash);
     label->setFont(font);
+    QPalette ink = label->palette();
+    ink.setColor(QPalette::WindowText, Qt::black); // the picture is light, whatever the desktop's colours
+    label->setPalette(ink);
     label->setAlignment(Qt::AlignRight | Qt::AlignBottom);
     layout->addWidget(label, 0, Qt::Alignment());
     splash.setLayout(layout);

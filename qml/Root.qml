@@ -113,9 +113,7 @@ Rectangle {
         Image {
             anchors { right: parent.right; top: parent.top; margins: Theme.gap * 2 }
             source: "/morvane.png"
-            height: 40
-            fillMode: Image.PreserveAspectFit
-            mipmap: true
+            sourceSize.height: 40 // scaled once while loading: a mipmap would hold up the first frame
             Accessible.role: Accessible.Graphic
             Accessible.name: "Morvane"
         }
