@@ -17,11 +17,8 @@ VfWindow {
         id: icon
 
         anchors { left: parent.left; top: parent.top; margins: Theme.margin }
-        width: 96
-        height: 96
         source: "qrc:/../icone.png"
-        fillMode: Image.PreserveAspectFit
-        mipmap: true
+        sourceSize { width: 96; height: 96 }
         Accessible.role: Accessible.Graphic
         Accessible.name: window.swName
     }
