@@ -3,13 +3,18 @@
 // pseudo-terminal. The instrument runs in a process of its own and answers at once, or after 10 ms as a real one.
 
 #include "app/core.h"
+#include "app/fonts.h"
+#include "app/suite.h"
 #include "bench/rows.h"
 #include "link/interface.h"
 #include "model/experiment.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QElapsedTimer>
 #include <QProcess>
+#include <QQmlApplicationEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
 
 #include <fcntl.h>
 #include <poll.h>
@@ -120,8 +125,24 @@ void exchanges(const char *family, const QString &name)
     row(name + QLatin1String(": exchange of 10 records, answered at once"), medianOf(raw), medianOf(ours), "ms", "<= 1.5");
 }
 
+/// Shows the instrument's page, with its list and its progress bar.
+void showPage(const QQmlApplicationEngine &engine, const QString &product)
+{
+    const auto window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
+    if (!window)
+        qFatal("no window");
+    QMetaObject::invokeMethod(window->contentItem()->childItems().value(0), "enterFamily", Q_ARG(QVariant, product));
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < 500)
+        QCoreApplication::processEvents();
+}
+
+enum class Screen { Nothing, Page };
+
 /// All that a download does, from the list to the experiment; floor: the same requests by the system's own calls.
-void download(const char *family, const QString &name, int records, int delay, const char *goal)
+void download(const char *family, const QString &name, int records, int delay, const char *goal,
+              Screen screen = Screen::Nothing)
 {
     const Instrument instrument(family, records, delay);
     QElapsedTimer timer;
@@ -136,23 +157,33 @@ void download(const char *family, const QString &name, int records, int delay, c
     core.findDevices();
     if (core.createDevice(0) != 0 || core.findExperiments() != 0)
         qFatal("no session");
+    QQmlApplicationEngine engine;
+    if (screen == Screen::Page) {
+        loadMainWindow(engine, core);
+        showPage(engine, core.devName());
+    }
     timer.restart();
     if (core.createExperiment(QStringLiteral("[0]")) != 0)
         qFatal("the download failed");
-    row(QStringLiteral("%1: download of %2 records, %3 ms per answer").arg(name).arg(records).arg(delay), raw,
-        elapsed(timer), "ms", goal);
+    const double ours = elapsed(timer);
+    row(QStringLiteral("%1: download of %2 records, %3 ms per answer%4")
+            .arg(name).arg(records).arg(delay).arg(QLatin1String(screen == Screen::Page ? ", page shown" : "")),
+        raw, ours, "ms", goal);
+    qDeleteAll(engine.rootObjects());
 }
 
 } // namespace
 
 int main(int argc, char **argv)
 {
-    QCoreApplication application(argc, argv);
+    QApplication application(argc, argv);
+    loadApplicationFonts();
     qInstallMessageHandler(withoutTraces);
     heading();
     for (const auto &[family, name] : {std::pair{"thalvex2", "THALVEX 2"}, {"thalvex4", "THALVEX 4, 3 expansions"}}) {
         exchanges(family, QLatin1String(name));
         download(family, QLatin1String(name), 86400, 0, "<= 2.5");
         download(family, QLatin1String(name), 8640, 10, "<= 1.1; a tenth of a day");
+        download(family, QLatin1String(name), 8640, 10, "<= 1.1; a tenth of a day", Screen::Page);
     }
 }
