@@ -15,7 +15,7 @@ Rectangle {
     Text {
         anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
         color: Theme.text
-        font { family: fontMorvane.name; pixelSize: 20; italic: true; capitalization: Font.AllUppercase }
+        font { family: fontMorvane.name; pixelSize: 20; bold: true; italic: true; capitalization: Font.AllUppercase }
         text: parent.pageTitle
         Accessible.role: Accessible.Heading
         Accessible.name: text

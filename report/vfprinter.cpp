@@ -168,10 +168,12 @@ QSize VfPrinter::drawLogo()
 {
     if (!m_logoEnable)
         return {0, 0};
-    if (m_logo.isNull()) // loaded once, for it stands on every page
-        m_logo = QPixmap(pathFromUrl(m_logoFile)).scaled(logoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    if (m_logo.isNull())
-        return {0, 0};
+    if (m_logo.isNull()) { // loaded once, for it stands on every page
+        const QPixmap picture(pathFromUrl(m_logoFile));
+        if (picture.isNull())
+            return {0, 0};
+        m_logo = picture.scaled(logoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    }
     moveTo(0, 0);
     m_painter->drawPixmap(0, 0, m_logo);
     return m_logo.size() + QSize(5, 5);
