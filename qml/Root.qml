@@ -71,6 +71,7 @@ Rectangle {
 
             anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
             visible: false
+            enabled: !page || !page.downloading // a page is not left in the middle of a download
             imgbtnpicdef: "/voltar1x.png"
             imgbtnpichover: "/voltar1xhover.png"
             imgbtnpicclicked: "/voltar1xclicked.png"
