@@ -33,3 +33,17 @@ signals:
 protected:
     QDateTime m_registerDate;
 };
+
+/// A record that is described by its table: \a T has `static const Fields<T> &fields()` for this base to use.
+template <class T> class LogOf : public Log
+{
+public:
+    using Log::Log;
+
+    QJsonObject toJson() const override { return writeJson(self(), T::fields()); }
+    void writeText(JsonText &out) const override { ::writeText(out, self(), T::fields()); }
+    void fromJson(const QJsonObject &object) override { readJson(static_cast<T &>(*this), T::fields(), object); }
+
+private:
+    const T &self() const { return static_cast<const T &>(*this); }
+};

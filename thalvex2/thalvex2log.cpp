@@ -23,18 +23,3 @@ int Thalvex2Log::parse(const QByteArray &line)
     readPieces(*this, fields(), InRecord, record);
     return 0;
 }
-
-QJsonObject Thalvex2Log::toJson() const
-{
-    return writeJson(*this, fields());
-}
-
-void Thalvex2Log::writeText(JsonText &out) const
-{
-    ::writeText(out, *this, fields());
-}
-
-void Thalvex2Log::fromJson(const QJsonObject &object)
-{
-    readJson(*this, fields(), object);
-}

@@ -4,7 +4,7 @@
 #include "model/log.h"
 
 /// One sample: three temperatures and two WBGT values, as the instrument sent them, in the unit of the measurement.
-class Thalvex2Log : public Log
+class Thalvex2Log : public LogOf<Thalvex2Log>
 {
     Q_OBJECT
     Q_PROPERTY(QString wetTemperature MEMBER m_wetTemperature NOTIFY logItemChanged)
@@ -24,13 +24,10 @@ public:
 
     /// A record: at least 10 fields.
     [[nodiscard]] int parse(const QByteArray &line) override;
-    QJsonObject toJson() const override;
-    void writeText(JsonText &out) const override;
-    void fromJson(const QJsonObject &object) override;
 
-private:
     static const Fields<Thalvex2Log> &fields();
 
+private:
     QString m_wetTemperature;
     QString m_dryTemperature;
     QString m_globeTemperature;

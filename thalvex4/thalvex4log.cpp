@@ -39,18 +39,3 @@ int Thalvex4Log::parse(const QByteArray &line)
         readBlocks<EnvironmentalFactors>(InRecord, record, 5, 8, 1 + Thalvex4::MaxExpansions);
     return 0;
 }
-
-QJsonObject Thalvex4Log::toJson() const
-{
-    return writeJson(*this, fields());
-}
-
-void Thalvex4Log::writeText(JsonText &out) const
-{
-    ::writeText(out, *this, fields());
-}
-
-void Thalvex4Log::fromJson(const QJsonObject &object)
-{
-    readJson(*this, fields(), object);
-}

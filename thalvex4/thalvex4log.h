@@ -5,7 +5,7 @@
 #include "thalvex4/environmentalfactors.h"
 
 /// One sample of all units, the main unit first.
-class Thalvex4Log : public Log
+class Thalvex4Log : public LogOf<Thalvex4Log>
 {
     Q_OBJECT
 
@@ -14,12 +14,9 @@ public:
 
     /// A record: at least 37 fields, with a block for each of up to four units.
     [[nodiscard]] int parse(const QByteArray &line) override;
-    QJsonObject toJson() const override;
-    void writeText(JsonText &out) const override;
-    void fromJson(const QJsonObject &object) override;
 
-private:
     static const Fields<Thalvex4Log> &fields();
 
+private:
     QVector<EnvironmentalFactors> m_enviromentalFactorsList;
 };
