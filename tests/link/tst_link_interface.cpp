@@ -37,16 +37,6 @@ class TestLinkInterface : public QObject
     Q_OBJECT
 
 private slots:
-    void hasTheSignalAndSlotsThatOthersConnect()
-    {
-        const QMetaObject &meta = Interface::staticMetaObject;
-        QByteArrayList methods;
-        for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
-            methods.append(meta.method(i).methodSignature());
-        QCOMPARE(methods, (QByteArrayList{"ifaceErrorOcurred(QSerialPort::SerialPortError)", "readData()",
-                                          "serialErrorOcurred(QSerialPort::SerialPortError)"}));
-    }
-
     void opensAndCloses()
     {
         Link link;

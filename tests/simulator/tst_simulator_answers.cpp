@@ -104,32 +104,6 @@ private slots:
         QTEST(instrument->answer(command), "answer");
     }
 
-    void settingsStay()
-    {
-        const auto instrument = simulatedThalvex2();
-        const auto order = [&](const char *command) {
-            QCOMPARE(instrument->answer(QByteArray(command) + "\r\n"), QByteArray("\r\nOK\r\n"));
-        };
-        order("AT+VFUNIT=\"F\"");
-        order("AT+VFINTVL=90");
-        order("AT+VFCTF=\"26/02/28,10:00:00+22\",\"\xC7-1\"");
-        order("AT+CCLK=\"19/10/09,09:37:01-12\"");
-        QCOMPARE(instrument->setting("VFUNIT"), QByteArray("\"F\""));
-        QCOMPARE(instrument->answer("AT+VFINTVL?\r\n"), QByteArray("\r\n+VFINTVL: 90\r\n\r\nOK\r\n"));
-        QCOMPARE(instrument->answer("AT+VFCTF?\r\n"),
-                 QByteArray("\r\n+VFCTF: \"26/02/28,10:00:00+22\",\"\xC7-1\"\r\n\r\nOK\r\n"));
-        QCOMPARE(instrument->answer("AT+VFINTVL=0\r\n"), QByteArray("\r\nERROR\r\n"));
-        QCOMPARE(instrument->setting("VFINTVL"), QByteArray("90"));
-        QCOMPARE(instrument->clock().text().left(14), QByteArray("19/10/09,09:37"));
-        QCOMPARE(instrument->clock().quarters, -12);
-
-        QVERIFY(instrument->answer("AT+VFERSMM\r\n").endsWith("\r\nOK\r\n"));
-        QCOMPARE(instrument->answer("AT+VFXPLST\r\n"), QByteArray("\r\n+VFXPLST: \r\n\r\nOK\r\n"));
-        QCOMPARE(instrument->answer("AT+VFRDXP=1,1,1\r\n"), QByteArray("\r\nERROR\r\n"));
-        instrument->addExperiment({3, 1});
-        QCOMPARE(lines(*instrument, "AT+VFXPLST").first().at(1), QByteArray("6")); // numbers are not used twice
-    }
-
     void measurementsAreConsistent_data()
     {
         QTest::addColumn<QByteArray>("family");

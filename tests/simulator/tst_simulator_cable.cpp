@@ -85,17 +85,6 @@ class TestSimulatorCable : public QObject
     Q_OBJECT
 
 private slots:
-    void echoesUntilToldNotTo()
-    {
-        SimulatedInstrument instrument(simulatedThalvex2());
-        Reader reader(instrument);
-        QCOMPARE(reader.ask(unitQuery), unitQuery + unitAnswer);
-        QCOMPARE(reader.ask("ATE0\r\n"), QByteArray("ATE0\r\n\r\nOK\r\n"));
-        QCOMPARE(reader.ask(unitQuery), unitAnswer);
-        QCOMPARE(instrument.commands(), (QByteArrayList{unitQuery, "ATE0\r\n", unitQuery}));
-        QCOMPARE(instrument.bytesSent(), qint64(2 * unitAnswer.size() + unitQuery.size() + 12));
-    }
-
     void takesCommandsAsTheyCome()
     {
         SimulatedInstrument instrument(quiet());
@@ -197,18 +186,6 @@ private slots:
         QCOMPARE(reader.isGone(), !instrument.isPlugged());
     }
 
-    void recordsCanBeCut()
-    {
-        SimulatedInstrument instrument(quiet());
-        Reader reader(instrument);
-        const QByteArray whole = reader.ask(recordQuery);
-        QVERIFY(whole.endsWith(",29.5,28.5\r\n\r\nOK\r\n"));
-        instrument.fault(Fault::shortRecord(2));
-        QCOMPARE(reader.ask(recordQuery), QByteArray(whole).replace(",29.5,28.5", ""));
-        instrument.clearFaults();
-        QCOMPARE(reader.ask(recordQuery), whole);
-    }
-
     void refusedWorkIsNotDone()
     {
         SimulatedInstrument instrument(quiet());
@@ -221,49 +198,6 @@ private slots:
         instrument.fault(Fault::late(10).on("AT+VFERSMM")); // of several that fit, the last
         QCOMPARE(reader.ask("AT+VFERSMM\r\n"), QByteArray("\r\n+VFERSMM: \r\n\r\nOK\r\n"));
         QCOMPARE(instrument.inside().memory().size(), 0);
-    }
-
-    /// The reader gets every byte up to the plug, and then an error.
-    void unplugsAfterEachByte()
-    {
-        for (int bytes = 0; bytes <= 2 * unitAnswer.size(); ++bytes) {
-            SimulatedInstrument instrument(quiet());
-            instrument.fault(Fault::unplugged().afterBytes(bytes));
-            Reader reader(instrument);
-            QByteArray got;
-            for (int i = 0; i < 3 && !reader.isGone(); ++i) {
-                got += reader.ask(unitQuery);
-                if (got.size() == bytes)
-                    got += reader.read();
-            }
-            QCOMPARE(got, unitAnswer.repeated(2).left(bytes));
-            QVERIFY(reader.isGone() && !instrument.isPlugged());
-        }
-    }
-
-    void serialPortSeesThePlugPulled()
-    {
-        SimulatedInstrument instrument(quiet());
-        QSerialPort port(instrument.portName());
-        QVERIFY(port.open(QIODevice::ReadWrite));
-        port.write(unitQuery);
-        QByteArray got;
-        QTRY_COMPARE(got += port.readAll(), unitAnswer);
-        QCOMPARE(port.error(), QSerialPort::NoError);
-        instrument.unplug();
-        QTRY_VERIFY(port.error() == QSerialPort::ResourceError || port.error() == QSerialPort::ReadError);
-    }
-
-    void delayComesBeforeEveryAnswer()
-    {
-        SimulatedInstrument instrument(quiet());
-        instrument.setDelay(20);
-        Reader reader(instrument);
-        QElapsedTimer time;
-        time.start();
-        for (int i = 0; i < 5; ++i)
-            QCOMPARE(reader.ask(unitQuery), unitAnswer);
-        QVERIFY2(time.elapsed() >= 95, QByteArray::number(time.elapsed()).constData());
     }
 
 private:
