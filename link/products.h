@@ -28,6 +28,8 @@ struct Product {
     ExposureComponent *(*exposureComponent)(); ///< null for products that have none
 };
 
+// The table of all products stands above the families, in app/.
+
 /// The product called exactly \a name, or null.
 const Product *productByName(const QString &name);
 

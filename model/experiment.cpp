@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/experiment.h"
 
-#include "link/factories.h"
 #include "model/log.h"
 #include "model/results.h"
 
@@ -61,8 +60,8 @@ int Experiment::parseLogs(const QList<QByteArray> &lines)
     setLogs({});
     m_logs.reserve(lines.size());
     for (const QByteArray &line : lines) {
-        std::unique_ptr<Log> log(FactoryLog::create(m_deviceName));
-        if (!log || log->parse(line) != 0)
+        std::unique_ptr<Log> log(newLog());
+        if (log->parse(line) != 0)
             return 1;
         m_logs.append(log.release());
     }
@@ -132,7 +131,7 @@ void Experiment::writeText(JsonText &out) const
     out.endObject();
 }
 
-void Experiment::fromJson(const QJsonObject &body, const QString &product)
+void Experiment::fromJson(const QJsonObject &body)
 {
     setDateTime(AtDateTime::fromAtString(body[QLatin1String("date")].toString()));
     setDeviceName(body[QLatin1String("deviceName")].toString());
@@ -143,13 +142,13 @@ void Experiment::fromJson(const QJsonObject &body, const QString &product)
     QList<Log *> logs;
     logs.reserve(logList.size());
     for (const QJsonValue &entry : logList) {
-        Log *log = FactoryLog::create(product);
+        Log *log = newLog();
         log->fromJson(entry.toObject());
         logs.append(log);
     }
     setLogs(logs);
 
-    std::unique_ptr<Results> results(FactoryResults::create(product));
+    std::unique_ptr<Results> results(newResults());
     results->fromJson(body[QLatin1String("results")].toObject());
     setResults(std::move(results));
 }

@@ -48,6 +48,9 @@ public:
 
     /// Copies what the list of an instrument tells: size, index and date.
     virtual void copyFrom(const Experiment *other);
+    /// An empty record of the family, and empty results; the caller owns them.
+    virtual Log *newLog() const = 0;
+    virtual Results *newResults() const = 0;
     /// Makes a log of each line, in order. 0, or 1 at the first line that is refused.
     [[nodiscard]] virtual int parseLogs(const QList<QByteArray> &lines);
     /// The experiment as it stands in files and on the pages.
@@ -56,8 +59,8 @@ public:
     void writeText(JsonText &out) const;
     /// Reads one line of an instrument's list: 0, or -1 with too few fields.
     [[nodiscard]] virtual int parseHeader(const QByteArray &line) = 0;
-    /// Reads what toJson() wrote, with logs and results of \a product's classes.
-    virtual void fromJson(const QJsonObject &body, const QString &product);
+    /// Reads what toJson() wrote.
+    virtual void fromJson(const QJsonObject &body);
 
     Experiment *next() const { return m_next; }
     void setNext(Experiment *next) { m_next = next; }
@@ -97,6 +100,16 @@ private:
     std::unique_ptr<Results> m_results;
     Experiment *m_next = nullptr;
     Experiment *m_prev = nullptr;
+};
+
+/// An experiment over \a Base whose records are of type \a L and whose results of type \a R.
+template <class Base, class L, class R> class ExperimentOf : public Base
+{
+public:
+    using Base::Base;
+
+    Log *newLog() const override { return new L; }
+    Results *newResults() const override { return new R; }
 };
 
 /// Lets a unique_ptr to the first member own the whole chain.

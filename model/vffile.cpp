@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/vffile.h"
 
-#include "link/device.h"
-#include "link/factories.h"
 #include "model/buildinfo.h"
 #include "model/jsontext.h"
 
@@ -60,23 +58,7 @@ QJsonObject VfFile::frame(const QByteArray &content)
     return m_document;
 }
 
-Device *VfFile::parseDevice(QByteArray content)
-{
-    const QJsonObject document = frame(content);
-    if (m_status != NoError)
-        return nullptr;
-    const QJsonObject info = document[QLatin1String("Info")].toObject()[QLatin1String("Device")].toObject();
-    const QString name = info[QLatin1String("name")].toString();
-    Device *device = isForeignProduct(name) ? nullptr : FactoryDevice::create(name);
-    if (!device) {
-        m_status = Malformed;
-        return nullptr;
-    }
-    device->fromJson(info);
-    return device;
-}
-
-Experiment *VfFile::readExperiments(const QByteArray &content, const QString &product, Members members)
+Experiment *VfFile::readExperiments(const QByteArray &content, Experiment *(*newExperiment)(), Members members)
 {
     const QJsonObject root = frame(content);
     m_framed.clear(); // the text of a day of records is large: let go of it with the last use
@@ -89,12 +71,12 @@ Experiment *VfFile::readExperiments(const QByteArray &content, const QString &pr
     QJsonArray bodies = body.isArray() ? body.toArray() : QJsonArray{body.isObject() ? body.toObject() : root};
     ExperimentChain chain;
     for (const QJsonValue &element : qAsConst(bodies)) {
-        Experiment *experiment = FactoryExperiment::create(product);
+        Experiment *experiment = newExperiment();
         if (chain)
             chain->append(experiment);
         else
             chain.reset(experiment);
-        experiment->fromJson(element.toObject(), product);
+        experiment->fromJson(element.toObject());
         if (members == Members::First)
             break;
     }

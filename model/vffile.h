@@ -43,10 +43,12 @@ public:
     /// The bytes of a file with \a device (Device::toJson) and the chain that begins at \a first.
     static QByteArray contentFor(const QJsonObject &device, const Experiment *first);
 
-protected:
     enum class Members { First, All };
-    /// Reads the experiments of \a product in the "Body" of \a content: the first, or all of them linked in order.
-    Experiment *readExperiments(const QByteArray &content, const QString &product, Members members);
+
+protected:
+    /// Reads the experiments in the "Body" of \a content into objects of \a newExperiment: the first, or all of them
+    /// linked in order.
+    Experiment *readExperiments(const QByteArray &content, Experiment *(*newExperiment)(), Members members);
 
 private:
     /// The JSON object in the frame of \a content; sets the status and gives an empty one when it is refused.
@@ -57,4 +59,20 @@ private:
     int m_status = NoError;
     QByteArray m_framed;    ///< content that m_document was read from: device and experiments share one reading
     QJsonObject m_document;
+};
+
+/// The file of a family whose experiments are of type \a E.
+template <class E, VfFile::Members members> class FileOf : public VfFile
+{
+public:
+    FileOf(const QString &fileName, const QString &product) : VfFile(fileName), m_product(product) {}
+
+    Experiment *parseExperiment(QByteArray content) override
+    {
+        return readExperiments(content, []() -> Experiment * { return new E; }, members);
+    }
+    bool isForeignProduct(const QString &name) const override { return name != m_product; }
+
+private:
+    QString m_product;
 };

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import "."
-import "local.js" as Local
+import "widgets"
+import "pages"
+import "shell"
 import "../thalvex2/qml"
 import "../thalvex4/qml"
+import "shell/local.js" as Local
 
 /// The shell: all pages at once, of which the state shows one, and what all pages know of codes, numbers and dates.
 Rectangle {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "link/heatstressdevice.h"
+#include "heatstress/heatstressdevice.h"
 
 /// The simpler heat-stress meter: three temperatures and two WBGT values at one place.
 class Thalvex2 : public HeatStressDevice

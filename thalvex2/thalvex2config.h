@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/heatstressconfig.h"
+#include "heatstress/heatstressconfig.h"
 #include "thalvex2/thalvex2.h"
 
 class Thalvex2Config : public HeatStressConfig

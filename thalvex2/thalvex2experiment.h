@@ -3,13 +3,15 @@
 
 #include "model/experiment.h"
 #include "thalvex2/thalvex2.h"
+#include "thalvex2/thalvex2log.h"
+#include "thalvex2/thalvex2results.h"
 
-class Thalvex2Experiment : public Experiment
+class Thalvex2Experiment : public ExperimentOf<Experiment, Thalvex2Log, Thalvex2Results>
 {
     Q_OBJECT
 
 public:
-    Thalvex2Experiment() : Experiment(Thalvex2::Name) {}
+    Thalvex2Experiment() : ExperimentOf(Thalvex2::Name) {}
 
     /// A list line: at least 5 fields.
     [[nodiscard]] int parseHeader(const QByteArray &line) override { return parseListLine(line, 5).isEmpty() ? -1 : 0; }

@@ -2,19 +2,13 @@
 #pragma once
 
 #include "model/vffile.h"
-#include "thalvex2/thalvex2.h"
+#include "thalvex2/thalvex2experiment.h"
 
 /// A file of the ending ".tvx". Of several experiments the first is read.
-class Thalvex2File : public VfFile
+class Thalvex2File : public FileOf<Thalvex2Experiment, VfFile::Members::First>
 {
     Q_OBJECT
 
 public:
-    using VfFile::VfFile;
-
-    Experiment *parseExperiment(QByteArray content) override
-    {
-        return readExperiments(content, Thalvex2::Name, Members::First);
-    }
-    bool isForeignProduct(const QString &name) const override { return name != Thalvex2::Name; }
+    explicit Thalvex2File(const QString &fileName) : FileOf(fileName, Thalvex2::Name) {}
 };

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "report/heatstressprinter.h"
+#include "heatstress/heatstressprinter.h"
 
 /// The report of one measurement: a page with its data, results, calibration and chart, then its log table, and a CSV
 /// file beside it.

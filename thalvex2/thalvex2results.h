@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/heatstressresults.h"
+#include "heatstress/heatstressresults.h"
 
 /// The summary of one measurement, as the instrument computed it: extremes of the three temperatures, averages of the
 /// two WBGT values. Temperatures are in the unit of the measurement.

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "link/heatstressdevice.h"
+#include "heatstress/heatstressdevice.h"
 
 /// The larger heat-stress meter: a main unit and up to three expansion units that measure at the same time.
 class Thalvex4 : public HeatStressDevice

@@ -32,8 +32,8 @@ QJsonObject Thalvex4Experiment::summary() const
     return object;
 }
 
-void Thalvex4Experiment::fromJson(const QJsonObject &body, const QString &product)
+void Thalvex4Experiment::fromJson(const QJsonObject &body)
 {
-    Experiment::fromJson(body, product);
+    Experiment::fromJson(body);
     setExpName(body[QLatin1String("expName")].toString());
 }

@@ -2,19 +2,13 @@
 #pragma once
 
 #include "model/vffile.h"
-#include "thalvex4/thalvex4.h"
+#include "thalvex4/thalvex4experiment.h"
 
 /// A file of the ending ".tv4", with one experiment or several.
-class Thalvex4File : public VfFile
+class Thalvex4File : public FileOf<Thalvex4Experiment, VfFile::Members::All>
 {
     Q_OBJECT
 
 public:
-    using VfFile::VfFile;
-
-    Experiment *parseExperiment(QByteArray content) override
-    {
-        return readExperiments(content, Thalvex4::Name, Members::All);
-    }
-    bool isForeignProduct(const QString &name) const override { return name != Thalvex4::Name; }
+    explicit Thalvex4File(const QString &fileName) : FileOf(fileName, Thalvex4::Name) {}
 };

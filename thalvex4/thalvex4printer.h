@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "report/heatstressprinter.h"
+#include "heatstress/heatstressprinter.h"
 
 class Thalvex4Results;
 

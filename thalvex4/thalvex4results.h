@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/calibration.h"
-#include "model/heatstressresults.h"
+#include "heatstress/heatstressresults.h"
 
 /// An expansion unit: its own serial number and calibration.
 struct ExpansionBoard {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "link/factories.h"
-#include "link/heatstressdevice.h"
+#include "heatstress/heatstressdevice.h"
 #include "simulator/families.h"
 #include "simulator/simulatedinstrument.h"
 

@@ -4,7 +4,7 @@
 #include "tests/link/pluggeddevice.h"
 
 #include "model/experiment.h"
-#include "model/heatstressconfig.h"
+#include "heatstress/heatstressconfig.h"
 #include "model/results.h"
 
 #include <QJsonDocument>

@@ -87,8 +87,6 @@ private slots:
         QCOMPARE(experiment.logs().size(), 1);
         QCOMPARE(experiment.parseLogs({}), 0);
         QCOMPARE(experiment.logs().size(), 0);
-        experiment.setDeviceName("NOBODY");
-        QCOMPARE(experiment.parseLogs({good}), 1);
     }
 
     void knowsTheProducts_data()

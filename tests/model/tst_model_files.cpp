@@ -114,7 +114,7 @@ private slots:
         }
         for (const QJsonArray &list : {logs, QJsonArray()}) {
             const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(product));
-            experiment->fromJson({{"logList", list}, {"expName", odd[5]}, {"index", "7"}}, product);
+            experiment->fromJson({{"logList", list}, {"expName", odd[5]}, {"index", "7"}});
             for (const auto format : {QJsonDocument::Compact, QJsonDocument::Indented}) {
                 JsonText text(format);
                 experiment->writeText(text);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import "qrc:/qml/local.js" as Local
+import "qrc:/qml/shell/local.js" as Local
 
 /// What the pages see of the shell: codes, numbers and dates.
 QtObject {

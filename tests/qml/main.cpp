@@ -3,7 +3,7 @@
 #include "app/fonts.h"
 
 #include <QApplication>
-#include <QFileInfo>
+#include <QDir>
 #include <QQmlComponent>
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -28,7 +28,7 @@ public slots:
 private:
     void stand(QQmlEngine *engine, const QString &name, const QString &file)
     {
-        const QString path = QFileInfo(QStringLiteral(__FILE__)).dir().filePath(file);
+        const QString path = QDir(QStringLiteral(QUICK_TEST_SOURCE_DIR)).filePath(file);
         QQmlComponent component(engine, QUrl::fromLocalFile(path));
         QObject *object = component.create();
         if (!object)

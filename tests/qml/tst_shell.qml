@@ -2,6 +2,10 @@
 import QtQuick 2.15
 import QtTest 1.15
 import "qrc:/qml"
+import "qrc:/qml/widgets"
+import "qrc:/qml/charts"
+import "qrc:/qml/pages"
+import "qrc:/qml/shell"
 import "dialogs.js" as Dialogs
 import "items.js" as Items
 

@@ -1,8 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import QtTest 1.15
-import "qrc:/qml"
-import "qrc:/qml/timechart.js" as TimeChart
+import "../../qml/charts"
+import "qrc:/qml/widgets"
+import "qrc:/qml/charts"
+import "qrc:/qml/pages"
+import "qrc:/qml/shell"
+import "qrc:/qml/charts/timechart.js" as TimeChart
 
 TestCase {
     id: test

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import "../../qml"
+import "../../qml/pages"
+import "../../heatstress/qml"
 
 VfResultsPage {
     function fill(parsed) {

@@ -1,4 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-import "../../qml"
+import "../../heatstress/qml"
 
 HeatStressExperimentItem {}

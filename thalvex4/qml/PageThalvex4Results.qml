@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import "../../qml"
+import "../../qml/pages"
 
 VfResultsPage {
     pageTitle: qsTr("Thalvex 4 - Results")

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import QtCharts 2.3
-import "../../qml"
-import "../../qml/timechart.js" as TimeChart
+import "../../qml/charts"
+import "../../qml/charts/timechart.js" as TimeChart
 
 /// The air velocity of a unit over time. It stands ready; no tab shows it.
 VfTimeChart {

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import "../../qml"
+import "../../heatstress/qml"
 
 HeatStressChart {}

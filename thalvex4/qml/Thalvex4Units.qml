@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import QtQuick.Controls 2.15
-import "../../qml"
+import "../../qml/widgets"
 
 /// The units of an experiment: a view of the one that is picked from the list beside it. The records stay as they were
 /// parsed; a unit's view is made and filled when it is first looked at, and takes its values from its place in a record.

@@ -1,0 +1,233 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "heatstress/heatstressprinter.h"
+
+#include "heatstress/heatstressresults.h"
+#include "model/log.h"
+#include "report/csv.h"
+#include "report/timechart.h"
+#include "report/vfsubsuperscript.h"
+#include "report/vftable.h"
+
+#include <QFile>
+#include <QLocale>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+QString localTime(const QDateTime &moment)
+{
+    return moment.toLocalTime().toString(QStringLiteral("hh:mm:ss"));
+}
+
+/// The number that \a text says; 0 when it says none ("---"). Instruments write short decimals, which are read here as
+/// exactly as QString::toDouble() does and many times faster; it reads the rest.
+double numberOf(const QString &text)
+{
+    constexpr double powers[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
+    const bool negative = text.startsWith(QLatin1Char('-'));
+    qint64 digits = 0;
+    int decimals = -1; // before the point
+    bool plain = text.size() > int(negative) && text.size() < 15;
+    for (int i = negative; plain && i < text.size(); ++i) {
+        const ushort c = text[i].unicode();
+        const bool point = c == '.' && decimals < 0;
+        plain = point || (c >= '0' && c <= '9' && decimals < 6);
+        if (!point)
+            digits = 10 * digits + (c - '0');
+        decimals += point || decimals >= 0;
+    }
+    if (plain && text.back() != QLatin1Char('.') && text[int(negative)] != QLatin1Char('.'))
+        return (negative ? -1 : 1) * double(digits) / powers[std::max(decimals, 0)];
+    const double value = text.toDouble();
+    return std::isfinite(value) ? value : 0;
+}
+
+bool anyOf(const std::array<bool, 5> &switches)
+{
+    return std::find(switches.cbegin(), switches.cend(), true) != switches.cend();
+}
+
+} // namespace
+
+HeatStressPrinter::HeatStressPrinter(const Words &words) : m_words(words)
+{
+    m_reportTitle = words.title;
+    m_footerText = QStringLiteral(" ");
+    setBodyFonts();
+}
+
+void HeatStressPrinter::setParameters(const QString &json)
+{
+    ReportParameters parameters = familyParameters();
+    const ReportParameters shared = {
+        {"ckbWetTempTable", &m_ckbWetTempTable},     {"ckbDryTempTable", &m_ckbDryTempTable},
+        {"ckbGlobeTempTable", &m_ckbGlobeTempTable}, {"ckbIBUTGiTable", &m_ckbIBUTGiTable},
+        {"ckbIBUTGeTable", &m_ckbIBUTGeTable},       {"ckbChart", &m_ckbChart},
+        {"ckbWetTempChart", &m_ckbWetTempChart},     {"ckbDryTempChart", &m_ckbDryTempChart},
+        {"ckbGlobeTempChart", &m_ckbGlobeTempChart}, {"ckbIBUTGiChart", &m_ckbIBUTGiChart},
+        {"ckbIBUTGeChart", &m_ckbIBUTGeChart},       {"ckbCsv", &m_ckbCsv},
+        {"ckbCalibration", &m_ckbCalibration},
+    };
+    parameters.insert(parameters.end(), shared.cbegin(), shared.cend());
+    readParameters(json, parameters);
+}
+
+HeatStressPrinter::PerQuantity<bool> HeatStressPrinter::tableSwitches() const
+{
+    return {m_ckbDryTempTable, m_ckbWetTempTable, m_ckbGlobeTempTable, m_ckbIBUTGiTable, m_ckbIBUTGeTable};
+}
+
+HeatStressPrinter::PerQuantity<bool> HeatStressPrinter::chartSwitches() const
+{
+    return {m_ckbDryTempChart, m_ckbWetTempChart, m_ckbGlobeTempChart, m_ckbIBUTGiChart, m_ckbIBUTGeChart};
+}
+
+bool HeatStressPrinter::logTableWanted() const
+{
+    return m_tableEnable && anyOf(tableSwitches());
+}
+
+QString HeatStressPrinter::unitSuffix(const Experiment *experiment) const
+{
+    return QLatin1String(" [") + resultsOf<HeatStressResults>(experiment).unity() + QLatin1Char(']');
+}
+
+QString HeatStressPrinter::nameWithUnit(Quantity quantity) const
+{
+    return name(quantity) + unitSuffix(m_experiment);
+}
+
+double HeatStressPrinter::number(const Log &log, int unit, Quantity quantity) const
+{
+    return numberOf(sample(log, unit, quantity));
+}
+
+QString HeatStressPrinter::numberText(const Log &log, int unit, Quantity quantity) const
+{
+    return QLocale().toString(number(log, unit, quantity), 'f', 1);
+}
+
+// ---------------------------------------------------------------- sections
+
+void HeatStressPrinter::drawExperiment()
+{
+    const auto &results = resultsOf<HeatStressResults>(m_experiment);
+    const auto texts = [](const QString &caption, const QString &value, const QString &caption2,
+                          const QString &value2) {
+        const QLatin1String colon(": ");
+        return QStringList{caption + colon + value + QLatin1String("\r\n") + caption2 + colon + value2};
+    };
+    section(tr("Experiment"), [&] {
+        drawTwoColumns(texts(tr("Start time"), localTime(results.startTime()), tr("Duration"), results.duration()),
+                       texts(tr("Stop time"), localTime(results.stopTime()), tr("Pause time"), results.pauseTime()));
+    });
+}
+
+void HeatStressPrinter::drawChartSection(int unit)
+{
+    if (m_ckbChart && anyOf(chartSwitches()))
+        section(tr("Chart"), [&] { m_y += drawChart(m_hSpace, m_y, 1.0F, unit); });
+}
+
+int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
+{
+    const QString temperature = QStringLiteral("T<sub>%1</sub>");
+    const QString index = QStringLiteral("WBGT<sub>%1</sub>");
+    const PerQuantity<QString> names = {temperature.arg(tr("Dry")), temperature.arg(tr("Wet")),
+                                        temperature.arg(tr("Globe")), index.arg(tr("i")), index.arg(tr("o"))};
+    TimeChart chart(m_chartFont);
+    chart.setTitle(tr("Temperature x Time"));
+    chart.setTimeTitle(tr("Time", "X axis label"));
+    chart.setValueTitle(tr("Temperature") + unitSuffix(m_experiment));
+    const QList<Log *> logs = m_experiment->logs();
+    const PerQuantity<bool> on = chartSwitches();
+    PerQuantity<QVector<QPointF>> points;
+    for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors})
+        points[quantity].reserve(on[quantity] ? logs.size() : 0);
+    for (const Log *log : logs) { // log by log: a day's worth of them does not fit a processor's cache
+        const double time = double(log->registerDate().toMSecsSinceEpoch());
+        for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
+            if (on[quantity])
+                points[quantity].append({time, number(*log, unit, quantity)});
+        }
+    }
+    for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
+        if (on[quantity])
+            chart.addCurve(names[quantity], points[quantity]);
+    }
+    return chart.draw(m_painter.get(), x, y, QSizeF(windowWidth() + 1 - 2 * m_hSpace, 300), double(scale));
+}
+
+// ---------------------------------------------------------------- log table
+
+QList<VfSubSuperScript *> HeatStressPrinter::logTableHeader(Experiment *experiment)
+{
+    auto *unit = new VfSubSuperScript(
+        QLatin1Char('[') + resultsOf<HeatStressResults>(experiment).unity() + QLatin1Char(']'), {}, {});
+    const QString symbols[] = {tr("T"), tr("T"), tr("T"), tr("WBGT"), tr("WBGT")};
+    QList<VfSubSuperScript *> heads = {new VfSubSuperScript(tr("Idx"), {}, {}),
+                                       new VfSubSuperScript(tr("D/T"), {}, {})};
+    unit->setParent(heads.first()); // shared by the heads behind it
+    const PerQuantity<bool> on = tableSwitches();
+    for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
+        if (on[quantity])
+            heads.append(new VfSubSuperScript(symbols[quantity], m_words.subscripts[quantity], {}, unit));
+    }
+    return heads;
+}
+
+QList<VfTableRow *> HeatStressPrinter::logTableRowsOf(const Experiment *experiment, int unit) const
+{
+    QList<VfTableRow *> rows;
+    const QList<Log *> logs = experiment->logs();
+    const PerQuantity<bool> on = tableSwitches();
+    rows.reserve(logs.size());
+    for (const Log *log : logs) {
+        QStringList cells{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
+                          localTime(log->registerDate())};
+        for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
+            if (on[quantity])
+                cells.append(numberText(*log, unit, quantity));
+        }
+        rows.append(new VfTableRow(cells, log->registerDate().date()));
+    }
+    return rows;
+}
+
+VfTable *HeatStressPrinter::createLogTable(Experiment *experiment, int unit)
+{
+    return makeLogTable(logTableRowsOf(experiment, unit), logTableHeader(experiment));
+}
+
+void HeatStressPrinter::drawLogTable(int unit)
+{
+    drawLogTable(std::unique_ptr<VfTable>(createLogTable(m_experiment, unit)));
+}
+
+// ---------------------------------------------------------------- CSV
+
+void HeatStressPrinter::writeCsvFile(const std::function<void(QFile &)> &lines) const
+{
+    if (!m_ckbCsv)
+        return;
+    QFile file(csvFileName());
+    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        lines(file);
+}
+
+void HeatStressPrinter::writeCsvSamples(QFile &file, const Experiment *experiment, int unit) const
+{
+    QStringList heads{tr("Time")};
+    for (const Quantity quantity : {Wet, Dry, Globe, Indoors, Outdoors}) // in this order whatever that of the values
+        heads.append(name(quantity) + unitSuffix(experiment));
+    file.write(Csv::headLine(heads));
+    const QList<Log *> logs = experiment->logs();
+    for (const Log *log : logs) {
+        QStringList cells{localTime(log->registerDate())};
+        for (const Quantity quantity : m_words.csvValues)
+            cells.append(numberText(*log, unit, quantity));
+        file.write(Csv::valueLine(cells));
+    }
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "../../qml/widgets"
+import "../../qml/widgets/texts.js" as Texts
+
+/// A box of the figures that the instrument computed of one quantity. A line that the quantity does not have is hidden.
+VfFrame {
+    id: item
+
+    /// {label, figures, and the keys of the figures: maximum, average, minimum}.
+    property var quantity: modelData
+
+    function figure(line) { return Texts.numberText(quantity.figures[quantity[line]], root.numberToLocalString) }
+
+    label: quantity.label
+    implicitWidth: 150
+    height: 140
+
+    Column {
+        spacing: 12
+
+        Repeater {
+            model: [{ label: qsTr("Max"), line: "maximum" }, { label: qsTr("Avg"), line: "average" },
+                    { label: qsTr("Min"), line: "minimum" }]
+            Column {
+                visible: item.quantity[modelData.line] !== undefined
+                spacing: 2
+                VfText { text: modelData.label + " [" + item.quantity.figures.unity + "]:"; color: Theme.quietText }
+                VfText {
+                    text: item.figure(modelData.line)
+                    font { pixelSize: Theme.largeSize; bold: true }
+                }
+            }
+        }
+    }
+}

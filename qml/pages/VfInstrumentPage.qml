@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Controls 2.15
+import QtQuick.Dialogs 1.3
+import "../widgets"
+
+/// The base of the pages of a connected instrument: its configuration, the experiments in its memory, their download.
+/// Every download is saved to a file before it is shown.
+VfPage {
+    id: page
+
+    property string productName
+    /// The file form of the family, as "(*.tvx)".
+    property string fileFilter
+    property Component experimentDelegate
+    /// A VfConfigurationWindow, made when it is first asked for.
+    property Component configurationWindow
+
+    /// Positions in the list of what is to be downloaded.
+    property var selectedIdx: []
+    /// Set while an experiment is being downloaded: nothing else can be asked of the instrument then.
+    property bool downloading: false
+    readonly property alias dialogs: dialogs
+    readonly property alias list: list
+    readonly property alias progress: progress.value
+    readonly property alias configuration: configurationLoader.item
+    readonly property alias saveDialog: saveFile.item
+
+    signal downloadError()
+
+    /// Reads the configuration; the window must be there to hear of it.
+    function configure() {
+        configurationLoader.active = true
+        if (dialogs.answered(core.acquireConfiguration(), dialogs.rcvCfgErrorDialog))
+            configuration.present()
+    }
+
+    function sendConfiguration(cfg) {
+        if (dialogs.answered(core.sndConfiguration(cfg), dialogs.configErrorDialog))
+            dialogs.configSuccesfulDialog.open()
+    }
+
+    function pick(index) {
+        selectedIdx = [index]
+        saveFile.open()
+    }
+
+    /// Downloads what is picked and saves it. A file that cannot be written is not told of: the results still show.
+    function download(fileUrls) {
+        var positions = selectedIdx.slice().sort(function (a, b) { return a - b })
+        progress.value = 0
+        downloading = true
+        var code = core.createExperiment(JSON.stringify(positions))
+        downloading = false
+        if (dialogs.answered(code, dialogs.downloadFailDialog))
+            core.saveExperimentToFile(fileUrls)
+    }
+
+    VfDialogs { id: dialogs }
+
+    PageBody {
+        anchors.fill: parent
+        enabled: !page.downloading
+
+        VfList {
+            id: list
+
+            anchors { fill: parent; bottomMargin: progress.height + Theme.spacing }
+            headerlabel: qsTr("Experiments")
+            emptyText: qsTr("No experiments in the instrument's memory.")
+            model: core.experimentList
+            delegate: page.experimentDelegate
+            onListClicked: page.pick(indexItem)
+            onModelChanged: page.selectedIdx = []
+        }
+        VfProgressBar {
+            id: progress
+
+            anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
+        }
+
+        actions: MyButton { buttonLabel: qsTr("Configure"); onMyButtonclicked: page.configure() }
+    }
+
+    Loader {
+        id: configurationLoader
+
+        active: false
+        sourceComponent: page.configurationWindow
+        onLoaded: item.dialogs = dialogs
+    }
+
+    LazyDialog {
+        id: saveFile
+
+        sourceComponent: FileDialog {
+            id: saveDialog
+
+            title: qsTr("Save file as")
+            selectExisting: false
+            // The ending is known to the dialog, so that it asks before a file of that name is lost.
+            defaultSuffix: page.fileFilter.replace(/[^a-z0-9]/g, "")
+            nameFilters: [qsTr("Suite Morvane Files ") + page.fileFilter, qsTr("All files ") + "(*)"]
+            onAccepted: page.download(saveDialog.fileUrls)
+        }
+    }
+
+    Connections {
+        target: configurationLoader.item
+        function onCfgOK(cfg) { page.sendConfiguration(cfg) }
+    }
+
+    Connections {
+        target: core
+        function onProgressBarUpdated(progressed) {
+            if (core.devName === page.productName)
+                progress.value = progressed
+        }
+        function onDeviceDisconnected() {
+            if (configurationLoader.item)
+                configurationLoader.item.hide()
+        }
+    }
+}

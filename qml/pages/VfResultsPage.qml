@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "../widgets"
+import "experiments.js" as Experiments
+
+/// The base of the results pages: hears of every new experiment, takes those of its own product, and walks along a chain.
+/// A family names its data block, its view and its report window, and fills the view.
+VfPage {
+    id: page
+
+    property string productName
+    /// The block of experiment data; its item has a property experiment.
+    property Component info
+    /// The heavy inside, made with the first experiment.
+    property Component view
+    property Component reportWindow
+    /// The experiment shown, parsed; its item of the view, and the report window once it was asked for.
+    property var experiment: null
+    readonly property alias viewItem: viewLoader.item
+    readonly property alias infoItem: infoLoader.item
+    readonly property alias reportItem: reportLoader.item
+    readonly property alias dialogs: dialogs
+    property alias previousVisible: previous.visible
+    property alias nextVisible: next.visible
+
+    signal showResults()
+
+    /// A family hands the experiment to its view, which has a function forget() too.
+    function fill(parsed) {}
+
+    /// Every results page hears of every experiment, and even to look at a long text costs. The page of the session's
+    /// product looks at once; the others look only when the experiment turned out not to be that page's.
+    function update(position) {
+        if (!core.devName || core.devName === productName)
+            take(position)
+        else
+            Qt.callLater(takeLeft, position)
+    }
+
+    function takeLeft(position) {
+        if (Experiments.taken !== core.devName)
+            take(position)
+    }
+
+    function take(position) {
+        var text = core.experiment.toString(), own = Experiments.deviceName(text) === productName
+        if (core.devName === productName)
+            Experiments.taken = own ? productName : ""
+        if (!own)
+            return
+        // Records are many: let go of the old ones first.
+        experiment = null
+        if (viewItem) {
+            viewItem.forget()
+            infoItem.experiment = {}
+        }
+        experiment = JSON.parse(text)
+        previous.visible = position === root.expLastItem || position === root.expMiddleItem
+        next.visible = position === root.expFirstItem || position === root.expMiddleItem
+        viewLoader.active = true
+        infoLoader.active = true
+        infoItem.experiment = experiment
+        fill(experiment)
+        showResults()
+    }
+
+    function openReport() {
+        reportLoader.active = true
+        reportLoader.item.show()
+        reportLoader.item.raise()
+        reportLoader.item.requestActivate()
+    }
+
+    VfDialogs { id: dialogs }
+
+    Loader {
+        id: infoLoader
+
+        active: false
+        anchors { left: parent.left; top: parent.top; leftMargin: Theme.margin; topMargin: Theme.pageTop }
+        sourceComponent: page.info
+    }
+
+    Row {
+        anchors { left: infoLoader.right; verticalCenter: infoLoader.verticalCenter; leftMargin: Theme.margin }
+        spacing: Theme.spacing
+
+        MyButton {
+            anchors.verticalCenter: parent.verticalCenter
+            buttonLabel: qsTr("Generate report")
+            onMyButtonclicked: page.openReport()
+        }
+        Arrow { id: previous; backward: true; onMyImgBtnClicked: core.prevExp() }
+        Arrow { id: next; onMyImgBtnClicked: core.nextExp() }
+    }
+
+    Loader {
+        id: viewLoader
+
+        active: false
+        anchors {
+            left: parent.left; right: parent.right; top: infoLoader.bottom; bottom: parent.bottom
+            leftMargin: Theme.margin; rightMargin: Theme.margin; topMargin: Theme.spacing; bottomMargin: Theme.spacing
+        }
+        sourceComponent: page.view
+    }
+
+    Loader {
+        id: reportLoader
+
+        active: false
+        sourceComponent: page.reportWindow
+    }
+
+    Connections {
+        target: reportLoader.item
+        function onConfirmedOK(cfg) {
+            if (core.generateReport(cfg) === -1)
+                dialogs.printerErrorDialog.open()
+        }
+    }
+
+    Connections {
+        target: core
+        function onExperimentUpdated(position) { page.update(position) }
+        function onResultsUpdated(position) { page.update(position) }
+        function onDeviceDisconnected() {
+            if (reportLoader.item)
+                reportLoader.item.close()
+        }
+    }
+}

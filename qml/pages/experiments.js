@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// How the results pages tell whose an experiment is.
+.pragma library
+
+// The product of the session's instrument while its own page shows the experiment; "" while that is another's.
+var taken = ""
+
+// The product of an experiment's JSON text, read from its head: the keys are sorted, and a day of records is a long text.
+// Only where the head does not tell (a very long name in front) is the whole text parsed.
+function deviceName(text) {
+    var member = /^\s*[{,]\s*"((?:[^"\\]|\\.)*)"\s*:\s*("(?:[^"\\]|\\.)*"|[^\s",{}\[\]]+)\s*(?=[,}])/
+    var head = text.substring(0, 300)
+    for (var found = member.exec(head); found; found = member.exec(head)) {
+        if (found[1] === "deviceName")
+            return JSON.parse(found[2])
+        head = head.substring(found[0].length)
+    }
+    var experiment = parsed(text)
+    return experiment ? experiment.deviceName : undefined
+}
+
+// The object of a JSON text, null for a text that is none.
+function parsed(text) {
+    try {
+        return JSON.parse(text)
+    } catch (e) {
+        return null
+    }
+}

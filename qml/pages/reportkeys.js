@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+// The keys of a report, named once by its window: the boxes, what they start with and the JSON for the printer follow.
+// A row is {key, kind, when}: a "switch" or a "text", sent always or only while the switch named by when is on.
+.pragma library
+
+function on(key, when) { return { key: key, kind: "switch", when: when } }
+function text(key, when) { return { key: key, kind: "text", when: when } }
+
+// The keys of a text field {on, text, under}: the switch beside it, and its text while that is on. A field under another
+// switch hangs on that one altogether: its text is sent even while its own switch is off.
+function ofField(field) {
+    return [on(field.on, field.under), text(field.text, field.under || field.on)]
+}
+
+// The keys of a group of boxes {title, key, boxes: [{key, label}]}: its head, and the boxes that hang on it.
+// A group without a head key has boxes that are always sent.
+function ofGroup(group) {
+    var head = group.key ? [on(group.key)] : []
+    return head.concat(group.boxes.map(function (box) { return on(box.key, group.key) }))
+}
+
+function joined(parts, rowsOf) {
+    return parts.reduce(function (rows, part) { return rows.concat(rowsOf(part)) }, [])
+}
+
+// values with every switch on; the texts stay.
+function allOn(rows, values) {
+    var next = {}
+    rows.forEach(function (row) {
+        next[row.key] = row.kind === "switch" ? true : values[row.key] || ""
+    })
+    return next
+}
+
+// A copy of values with one changed.
+function changed(values, key, value) {
+    var next = {}
+    for (var old in values)
+        next[old] = values[old]
+    next[key] = value
+    return next
+}
+
+// The object for the printer.
+function parameters(rows, values) {
+    var cfg = {}
+    rows.forEach(function (row) {
+        if (!row.when || values[row.when])
+            cfg[row.key] = row.kind === "switch" ? values[row.key] === true : values[row.key] || ""
+    })
+    return cfg
+}
