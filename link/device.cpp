@@ -9,9 +9,16 @@ Device::Device() : m_iface(std::make_shared<Interface>())
     connect(m_iface.get(), &Interface::ifaceErrorOcurred, this, &Device::ifaceErrorOcurred);
 }
 
-Device::Device(const Device &plain)
+Device::Device(const QString &product, Manners manners) : Device()
+{
+    m_manners = manners;
+    m_productName = product;
+}
+
+Device::Device(const Device &plain, Manners manners)
     : QObject(), m_iface(plain.m_iface), m_closesPort(false), m_productName(plain.m_productName),
-      m_manufactoryName(plain.m_manufactoryName), m_sn(plain.m_sn), m_fw(plain.m_fw), m_calibration(plain.m_calibration)
+      m_manufactoryName(plain.m_manufactoryName), m_sn(plain.m_sn), m_fw(plain.m_fw), m_calibration(plain.m_calibration),
+      m_manners(manners)
 {
     connect(m_iface.get(), &Interface::ifaceErrorOcurred, this, &Device::ifaceErrorOcurred);
 }

@@ -73,6 +73,9 @@ public:
     int eraseMemory();
     /// The experiments in the instrument's memory; the caller owns them. Empty also when the instrument refuses.
     QList<Experiment *> acquireExperimentList();
+    /// The service setting; 0 until it is read.
+    int serviceConfig() const { return m_serviceConfig; }
+
     /// The raw lines of all records of \a exp, ten to an exchange; empty unless all of them came.
     QList<QByteArray> acquireLogs(const Experiment *exp);
     /// Reads the closing record of experiment \a index into \a results; they keep their defaults when that fails.
@@ -102,25 +105,46 @@ public slots:
     void ifaceErrorOcurred(QSerialPort::SerialPortError s);
 
 protected:
+    /// How a family's instruments are talked to, where they differ.
+    struct Manners {
+        Match writes = Match::RefusalIsWhole; ///< how the answer to a setting that was written is sorted
+        bool settingsTellBusy = false;        ///< busy() is emitted when a setting is answered so
+        bool headersTellBusy = false;         ///< busy() is emitted when a header is answered so
+        bool closingRecordNeeded = false;     ///< without its closing record an experiment has no results
+    };
+    /// A family's object for a file, with no port.
+    Device(const QString &product, Manners manners);
     /// A family's object on the port of \a plain, which stays the one that closes it.
-    explicit Device(const Device &plain);
+    Device(const Device &plain, Manners manners);
 
     [[nodiscard]] int sendCommand(const QByteArray &cmd);
     QByteArray readResponse();
 
     /// Sends \a cmd and sorts the answer, whose data begin with \a tag.
     Reply query(const QByteArray &cmd, const QByteArray &tag, Match match = Match::End);
-    /// The same for a command that writes: a refusal is recognised only when it is the whole answer.
-    int order(const QByteArray &cmd, const QByteArray &tag) { return query(cmd, tag, Match::RefusalIsWhole).code; }
-    /// Reads the service setting into \a value.
-    int queryServiceConfig(int &value);
+    /// Asks for the setting of \a command.
+    Reply askSetting(const QByteArray &command);
+    /// Sends \a cmd, which changes a setting and whose answer's data begin with \a tag.
+    int order(const QByteArray &cmd, const QByteArray &tag);
+    /// A setting that is to be written.
+    struct Order {
+        QByteArray command;
+        QByteArray value; ///< as on the wire
+        bool readBack;    ///< what the instrument then tells of it must be the same
+    };
+    int sendSetting(const Order &order);
+    /// Reads the service setting.
+    int queryServiceConfig();
+    void setServiceConfig(int value) { m_serviceConfig = value; }
 
     template <class R> using HeaderParser = int (R::*)(const QByteArray &);
-    /// Reads headers 1, 2, ... of \a exp, one by each of \a parsers, and the closing record. Null at the first header
-    /// that does not come or is refused; a closing record that fails leaves its members at their defaults.
-    template <class R> std::unique_ptr<R> acquireHeaders(const Experiment *exp, std::initializer_list<HeaderParser<R>> parsers)
+    /// Reads headers 1, 2, ... of \a exp into \a results, one by each of \a parsers, and the closing record. Null at the
+    /// first header that does not come or is refused; where it is not needed, a closing record that fails leaves its
+    /// members at their defaults.
+    template <class R>
+    std::unique_ptr<R> acquireHeaders(const Experiment *exp, std::initializer_list<HeaderParser<R>> parsers,
+                                      std::unique_ptr<R> results = std::make_unique<R>())
     {
-        auto results = std::make_unique<R>();
         const int index = experimentIndex(exp);
         int header = 0;
         for (const HeaderParser<R> parser : parsers) {
@@ -128,8 +152,8 @@ protected:
             if (!answer || (results.get()->*parser)(*answer) != 0)
                 return nullptr;
         }
-        finishHeaderRead(results.get(), index);
-        return results;
+        const int closed = finishHeaderRead(results.get(), index);
+        return closed == DeviceSuccessful || !m_manners.closingRecordNeeded ? std::move(results) : nullptr;
     }
 
 private:
@@ -146,5 +170,7 @@ private:
     Calibration m_calibration;
     QList<Schedule *> m_schedules;
     std::unique_ptr<DeviceConfig> m_config;
+    Manners m_manners;
+    int m_serviceConfig = 0;
     int m_portError = QSerialPort::NoError;
 };

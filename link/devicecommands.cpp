@@ -89,6 +89,8 @@ std::optional<QByteArray> Device::acquireHeader(int header, int index)
 {
     const QByteArray place = QByteArray::number(header) + ',' + QByteArray::number(index);
     const Reply reply = query("AT+VFXPHDR=" + place + "\r\n", "\r\n+VFXPHDR: ");
+    if (reply.code == DeviceBusy && m_manners.headersTellBusy)
+        emit busy();
     if (reply.code != DeviceSuccessful)
         return std::nullopt;
     return reply.data;
@@ -131,10 +133,35 @@ int Device::acquireCalibration()
     return reply.code == DeviceDisconnected ? DeviceError : reply.code;
 }
 
-int Device::queryServiceConfig(int &value)
+Reply Device::askSetting(const QByteArray &command)
+{
+    const Reply reply = query("AT+" + command + "?\r\n", "\r\n+" + command + ": ");
+    if (reply.code == DeviceBusy && m_manners.settingsTellBusy)
+        emit busy();
+    return reply;
+}
+
+int Device::order(const QByteArray &cmd, const QByteArray &tag)
+{
+    const int code = query(cmd, tag, m_manners.writes).code;
+    if (code == DeviceBusy && m_manners.settingsTellBusy)
+        emit busy();
+    return code;
+}
+
+int Device::sendSetting(const Order &order)
+{
+    const int code = this->order("AT+" + order.command + '=' + order.value + "\r\n", "\r\n+" + order.command + ": ");
+    if (code != DeviceSuccessful || !order.readBack)
+        return code;
+    const Reply kept = query("AT+" + order.command + "?\r\n", "\r\n+" + order.command + ": ");
+    return kept.code == DeviceSuccessful && kept.data == order.value ? DeviceSuccessful : DeviceError;
+}
+
+int Device::queryServiceConfig()
 {
     const Reply reply = query("AT+VFSVCCFG?\r\n", "\r\n+VFSVCCFG: ");
     if (reply.code == DeviceSuccessful)
-        value = reply.data.toInt();
+        m_serviceConfig = reply.data.toInt();
     return reply.code;
 }

@@ -3,8 +3,6 @@
 
 #include "model/atdatetime.h"
 
-#include <QJsonDocument>
-
 const Fields<Calibration> &Calibration::fields()
 {
     static const Fields<Calibration> rows = {
@@ -26,11 +24,11 @@ void Calibration::fromJson(const QJsonObject &object)
 
 int Calibration::parseJson(const QString &text)
 {
-    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
-    if (!document.isObject())
+    const std::optional<QJsonObject> object = objectOfText(text);
+    if (!object)
         return -1;
-    date = QDateTime::fromString(document[QLatin1String("date")].toString(), Qt::ISODate);
-    certification = document[QLatin1String("certification")].toString();
+    date = QDateTime::fromString(object->value(QLatin1String("date")).toString(), Qt::ISODate);
+    certification = object->value(QLatin1String("certification")).toString();
     return 0;
 }
 

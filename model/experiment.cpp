@@ -4,7 +4,7 @@
 #include "model/log.h"
 #include "model/results.h"
 
-Experiment::Experiment(const QString &deviceName) : m_deviceName(deviceName)
+Experiment::Experiment(const QString &deviceName, ListLine listLine) : m_listLine(listLine), m_deviceName(deviceName)
 {
 }
 
@@ -78,13 +78,18 @@ const Fields<Experiment> &Experiment::listFields()
     return rows;
 }
 
-Pieces Experiment::parseListLine(const QByteArray &line, int atLeast)
+void Experiment::readListLine(const Pieces &line)
+{
+    readPieces(*this, listFields(), InRecord, line);
+}
+
+int Experiment::parseHeader(const QByteArray &line)
 {
     const Pieces list = pieces(line, "+VFXPLST: ");
-    if (list.size() < atLeast)
-        return {};
-    readPieces(*this, listFields(), InRecord, list);
-    return list;
+    if (list.size() < m_listLine.leastPieces)
+        return m_listLine.refusal;
+    readListLine(list);
+    return 0;
 }
 
 QJsonObject Experiment::summary() const
@@ -116,7 +121,7 @@ void Experiment::writeText(JsonText &out) const
     object.insert(QLatin1String("logList"), QJsonValue()); // holds the place of the records
     out.beginObject();
     for (auto member = object.constBegin(); member != object.constEnd(); ++member) {
-        out.key(member.key().toUtf8().constData());
+        out.key(member.key().toUtf8());
         if (member.key() != QLatin1String("logList")) {
             out.value(member.value());
             continue;

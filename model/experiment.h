@@ -24,7 +24,12 @@ public:
     /// Where an experiment stands in its chain, as the pages know it.
     enum ChainPosition { UniqueItem = -3, FirstItem = -2, LastItem = -1, MiddleItem = 0 };
 
-    explicit Experiment(const QString &deviceName = {});
+    /// How a line of an instrument's list must be, and what parseHeader() gives of one that is not.
+    struct ListLine {
+        int leastPieces;
+        int refusal = -1;
+    };
+    Experiment(const QString &deviceName, ListLine listLine);
     ~Experiment() override;
 
     QDateTime dateTime() const { return m_dateTime; }
@@ -57,8 +62,8 @@ public:
     QJsonObject toJson() const;
     /// Writes what toJson() gives.
     void writeText(JsonText &out) const;
-    /// Reads one line of an instrument's list: 0, or -1 with too few fields.
-    [[nodiscard]] virtual int parseHeader(const QByteArray &line) = 0;
+    /// Reads one line of an instrument's list: 0, or the family's refusal (-1, or 1) with too few fields.
+    [[nodiscard]] virtual int parseHeader(const QByteArray &line);
     /// Reads what toJson() wrote.
     virtual void fromJson(const QJsonObject &body);
 
@@ -86,12 +91,13 @@ protected:
     /// What toJson() gives but for the logs: the base's date, size, device name, index, place in the chain and results,
     /// to which a family adds its own.
     virtual QJsonObject summary() const;
-    /// Reads index, size and date of a list line that has at least \a atLeast fields: the pieces, or none when refused.
-    Pieces parseListLine(const QByteArray &line, int atLeast);
+    /// Takes over a line of an instrument's list: here index, size and date.
+    virtual void readListLine(const Pieces &line);
 
 private:
     static const Fields<Experiment> &listFields();
 
+    ListLine m_listLine;
     QDateTime m_dateTime;
     int m_size = 0;
     int m_index = 0;

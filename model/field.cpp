@@ -3,12 +3,62 @@
 
 #include <array>
 
+namespace {
+
+/// Whether a date stands in the \a length bytes at \a text: "yy/MM/dd,hh:mm:ss" and what follows it.
+bool isDateWithTime(const char *text, int length)
+{
+    return length >= 17 && text[2] == '/' && text[5] == '/' && text[8] == ',' && text[11] == ':' && text[14] == ':';
+}
+
+} // namespace
+
 Pieces pieces(const QByteArray &answer, const char *tag)
 {
     QByteArray plain = answer;
-    plain.replace(tag, "").replace('\n', "").replace('"', "");
-    const QList<QByteArray> parts = plain.split(',');
-    return Pieces(parts.cbegin(), parts.cend());
+    plain.replace(tag, "").replace('\n', "");
+    const bool quotes = plain.count('"') % 2 == 0; // of an odd number nobody can say what stands between them
+    Pieces parts;
+    QByteArray part;
+    int quoted = -1; // where the text between quotes begins
+    for (int at = 0; at < plain.size(); ++at) {
+        const char c = plain[at];
+        if (c == '"') {
+            quoted = quoted < 0 && quotes ? at + 1 : -1;
+        } else if (c == ',' && (quoted < 0 || isDateWithTime(&plain.constData()[quoted], plain.indexOf('"', at) - quoted))) {
+            parts.append(part);
+            part.clear();
+        } else {
+            part += c;
+        }
+    }
+    parts.append(part);
+    return parts;
+}
+
+QVector<Pieces> linesOf(const QByteArray &answer, const char *tag)
+{
+    QVector<Pieces> lines;
+    const QList<QByteArray> texts = answer.split('\r');
+    for (const QByteArray &text : texts)
+        lines.append(pieces(text, tag));
+    return lines;
+}
+
+QStringList textsOf(const QJsonArray &array)
+{
+    QStringList texts;
+    texts.reserve(array.size());
+    for (const QJsonValue &value : array)
+        texts.append(sharedText(value.toString()));
+    return texts;
+}
+
+QByteArray keyWithWord(QByteArray key, QByteArray word)
+{
+    if (key.startsWith('%'))
+        word.replace(0, 1, word.left(1).toLower());
+    return key.replace('%', word);
 }
 
 QString clockText(int seconds)
@@ -21,10 +71,15 @@ QString wireText(const QByteArray &piece, Form form)
     const QString text = QString::fromLatin1(piece);
     switch (form) {
     case Form::Clock:
+    case Form::ClockIfThere:
         return clockText(text.toInt());
+    case Form::Dashed:
+        return text.isEmpty() ? absentText() : text;
     case Form::Degree:
         return QChar(0x00B0) + text;
     case Form::Plain:
+    case Form::IfThere:
+    case Form::DateOrEmpty:
         break;
     }
     return text;

@@ -9,10 +9,10 @@
 #include <QJsonArray>
 #include <QJsonObject>
 #include <QString>
+#include <QStringList>
 #include <QVector>
 
 #include <algorithm>
-#include <cstring>
 #include <initializer_list>
 #include <memory>
 #include <variant>
@@ -23,15 +23,25 @@
 
 /// How a text member stands on the wire, where that is not simply the text itself.
 enum class Form {
-    Plain,  ///< as sent, ISO 8859-1
-    Clock,  ///< whole seconds on the wire, kept as "hh:mm:ss"
-    Degree, ///< a letter on the wire, kept behind a degree sign: "°C"
+    Plain,        ///< as sent, ISO 8859-1
+    Dashed,       ///< the same, "---" when it is empty or not there
+    IfThere,      ///< the same; a place that is not there leaves the member as it is
+    Clock,        ///< whole seconds on the wire, kept as "hh:mm:ss"
+    ClockIfThere, ///< the same; an empty place leaves the member as it is
+    Degree,       ///< a letter on the wire, kept behind a degree sign: "°C"
+    DateOrEmpty,  ///< of a date: one that is not valid is an empty text in JSON
 };
 
 constexpr int NotOnWire = 0; ///< header of a row that instruments do not send
 constexpr int InRecord = -1; ///< header of a row that stands in a logged record or a line of the experiment list
 
-/// A member that is a part of its own: an object or a list of objects, each described by its own table.
+/// What stands where an instrument has no value.
+inline QString absentText()
+{
+    return QStringLiteral("---");
+}
+
+/// A member that is more than one plain value, or that stands in a part of the record: an object, a list of objects.
 template <class T> struct Nested {
     virtual ~Nested() = default;
     virtual QJsonValue toJson(const T &owner) const = 0;
@@ -40,23 +50,30 @@ template <class T> struct Nested {
 };
 
 template <class T> struct Field {
-    const char *key; ///< key in files and on the pages
-    int header;      ///< number of the header that carries it, or NotOnWire or InRecord
-    int piece;       ///< place in that header or record, from 0; a date takes this place and the next
-    std::variant<QString T::*, int T::*, double T::*, QDateTime T::*, std::shared_ptr<const Nested<T>>> member;
+    QByteArray key; ///< key in files and on the pages
+    int header;     ///< number of the header that carries it, or NotOnWire or InRecord
+    int piece;      ///< place in that header or record, from 0; a date takes this place and the next
+    std::variant<QString T::*, int T::*, double T::*, bool T::*, QDateTime T::*, QStringList T::*,
+                 std::shared_ptr<const Nested<T>>>
+        member;
     Form form = Form::Plain;
 };
+template <class T> using FieldRows = std::vector<Field<T>>;
 
 /// The table of a record, made once and never copied.
 template <class T> class Fields
 {
 public:
-    Fields(std::initializer_list<Field<T>> rows) : m_rows(rows)
+    Fields(std::initializer_list<Field<T>> rows) : Fields({FieldRows<T>(rows)}) {}
+    /// Tables one behind the other; those of parts come from partRows().
+    Fields(std::initializer_list<FieldRows<T>> tables)
     {
+        for (const FieldRows<T> &table : tables)
+            m_rows.insert(m_rows.end(), table.begin(), table.end());
         for (const Field<T> &row : m_rows)
             m_byKey.push_back(&row);
         std::sort(m_byKey.begin(), m_byKey.end(),
-                  [](const Field<T> *a, const Field<T> *b) { return std::strcmp(a->key, b->key) < 0; });
+                  [](const Field<T> *a, const Field<T> *b) { return a->key < b->key; });
     }
     Fields(const Fields &) = delete;
     Fields &operator=(const Fields &) = delete;
@@ -67,14 +84,18 @@ public:
     const std::vector<const Field<T> *> &byKey() const { return m_byKey; }
 
 private:
-    std::vector<Field<T>> m_rows;
+    FieldRows<T> m_rows;
     std::vector<const Field<T> *> m_byKey;
 };
 
 using Pieces = QVector<QByteArray>;
 
-/// The pieces of \a answer between its commas, without \a tag, line feeds and double quotes. Empty pieces count.
+/// The pieces of \a answer between its commas, without \a tag, line feeds and double quotes. Empty pieces count. A comma
+/// between double quotes belongs to its text, except in a date, which comes apart from its time.
 Pieces pieces(const QByteArray &answer, const char *tag);
+
+/// The pieces of each line of an answer of several lines.
+QVector<Pieces> linesOf(const QByteArray &answer, const char *tag);
 
 /// Whole seconds as "hh:mm:ss"; hours grow as they need to ("100:00:00").
 QString clockText(int seconds);
@@ -89,6 +110,12 @@ QString sharedText(const QString &text);
 /// The date that stands in pieces \a at and \a at + 1.
 QDateTime wireDate(const Pieces &pieces, int at);
 
+/// The texts in \a array.
+QStringList textsOf(const QJsonArray &array);
+
+/// \a key with \a word in place of its "%"; at the key's beginning the word's first letter is a small one.
+QByteArray keyWithWord(QByteArray key, QByteArray word);
+
 template <class... Ts> struct Overloaded : Ts... {
     using Ts::operator()...;
 };
@@ -101,12 +128,18 @@ template <class T> void readPieces(T &record, const Fields<T> &fields, int heade
         if (field.header != header)
             continue;
         const int at = field.piece + offset;
+        if (field.form == Form::IfThere && at >= pieces.size())
+            continue;
+        const QByteArray piece = pieces.value(at);
+        if (field.form == Form::ClockIfThere && piece.isEmpty())
+            continue;
         std::visit(Overloaded{
-                       [&](QString T::*text) { record.*text = sharedText(wireText(pieces.value(at), field.form)); },
-                       [&](int T::*number) { record.*number = pieces.value(at).toInt(); },
-                       [&](double T::*number) { record.*number = pieces.value(at).toDouble(); },
+                       [&](QString T::*text) { record.*text = sharedText(wireText(piece, field.form)); },
+                       [&](int T::*number) { record.*number = piece.toInt(); },
+                       [&](double T::*number) { record.*number = piece.toDouble(); },
+                       [&](bool T::*flag) { record.*flag = piece == "1"; },
                        [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
-                       [](const std::shared_ptr<const Nested<T>> &) {},
+                       [](const auto &) {},
                    },
                    field.member);
     }
@@ -135,35 +168,63 @@ template <class T>
     return 0;
 }
 
+inline QString dateText(const QDateTime &date, Form form)
+{
+    return form == Form::DateOrEmpty && !date.isValid() ? QString() : AtDateTime::toAtString(date);
+}
+
+template <class T> QJsonValue toJsonValue(const T &record, const Field<T> &field)
+{
+    return std::visit(Overloaded{
+                          [&](QDateTime T::*date) { return QJsonValue(dateText(record.*date, field.form)); },
+                          [&](QStringList T::*texts) { return QJsonValue(QJsonArray::fromStringList(record.*texts)); },
+                          [&](const std::shared_ptr<const Nested<T>> &part) { return part->toJson(record); },
+                          [&](auto member) { return QJsonValue(record.*member); },
+                      },
+                      field.member);
+}
+
+template <class T> void fromJsonValue(T &record, const Field<T> &field, const QJsonValue &value)
+{
+    std::visit(Overloaded{
+                   [&](QString T::*text) { record.*text = sharedText(value.toString()); },
+                   [&](int T::*number) { record.*number = value.toInt(); },
+                   [&](double T::*number) { record.*number = value.toDouble(); },
+                   [&](bool T::*flag) { record.*flag = value.toBool(); },
+                   [&](QDateTime T::*date) { record.*date = AtDateTime::fromAtString(value.toString()); },
+                   [&](QStringList T::*texts) { record.*texts = textsOf(value.toArray()); },
+                   [&](const std::shared_ptr<const Nested<T>> &part) { part->fromJson(record, value); },
+               },
+               field.member);
+}
+
+template <class T> void writeValue(JsonText &out, const T &record, const Field<T> &field)
+{
+    std::visit(Overloaded{
+                   [&](QDateTime T::*date) { out.value(dateText(record.*date, field.form)); },
+                   [&](const std::shared_ptr<const Nested<T>> &part) { part->writeText(record, out); },
+                   [&](double T::*number) { out.value(QJsonValue(record.*number)); },
+                   [&](bool T::*flag) { out.value(QJsonValue(record.*flag)); },
+                   [&](auto member) { out.value(record.*member); },
+               },
+               field.member);
+}
+
 /// \a object with the members of \a record added under their keys.
 template <class T> QJsonObject writeJson(const T &record, const Fields<T> &fields, QJsonObject object = {})
 {
-    for (const Field<T> &field : fields) {
-        const auto value = std::visit(
-            Overloaded{
-                [&](QDateTime T::*date) { return QJsonValue(AtDateTime::toAtString(record.*date)); },
-                [&](const std::shared_ptr<const Nested<T>> &part) { return part->toJson(record); },
-                [&](auto member) { return QJsonValue(record.*member); },
-            },
-            field.member);
-        object.insert(QLatin1String(field.key), value);
-    }
+    for (const Field<T> &field : fields)
+        object.insert(QLatin1String(field.key), toJsonValue(record, field));
     return object;
 }
 
-/// Fills \a record from the members of \a object; a key that is missing gives its type's empty value.
+/// Fills \a record from the members of \a object; a key that is missing leaves its member as it is.
 template <class T> void readJson(T &record, const Fields<T> &fields, const QJsonObject &object)
 {
     for (const Field<T> &field : fields) {
         const QJsonValue value = object.value(QLatin1String(field.key));
-        std::visit(Overloaded{
-                       [&](QString T::*text) { record.*text = sharedText(value.toString()); },
-                       [&](int T::*number) { record.*number = value.toInt(); },
-                       [&](double T::*number) { record.*number = value.toDouble(); },
-                       [&](QDateTime T::*date) { record.*date = AtDateTime::fromAtString(value.toString()); },
-                       [&](const std::shared_ptr<const Nested<T>> &part) { part->fromJson(record, value); },
-                   },
-                   field.member);
+        if (!value.isUndefined())
+            fromJsonValue(record, field, value);
     }
 }
 
@@ -173,13 +234,7 @@ template <class T> void writeText(JsonText &out, const T &record, const Fields<T
     out.beginObject();
     for (const Field<T> *field : fields.byKey()) {
         out.key(field->key);
-        std::visit(Overloaded{
-                       [&](QDateTime T::*date) { out.value(AtDateTime::toAtString(record.*date)); },
-                       [&](const std::shared_ptr<const Nested<T>> &part) { part->writeText(record, out); },
-                       [&](double T::*number) { out.value(QJsonValue(record.*number)); },
-                       [&](auto member) { out.value(record.*member); },
-                   },
-                   field->member);
+        writeValue(out, record, *field);
     }
     out.endObject();
 }
@@ -235,4 +290,28 @@ template <class T, class P> std::shared_ptr<const Nested<T>> listOf(QVector<P> T
         QVector<P> T::*member;
     };
     return std::make_shared<List>(member);
+}
+
+/// A row's member that stands in the part \a part of the record, as \a row of the part's own table tells.
+template <class T, class P> std::shared_ptr<const Nested<T>> within(P T::*part, const Field<P> &row)
+{
+    struct Within final : Nested<T> {
+        Within(P T::*p, const Field<P> &r) : part(p), row(r) {}
+        QJsonValue toJson(const T &owner) const override { return toJsonValue(owner.*part, row); }
+        void writeText(const T &owner, JsonText &out) const override { writeValue(out, owner.*part, row); }
+        void fromJson(T &owner, const QJsonValue &value) const override { fromJsonValue(owner.*part, row, value); }
+        P T::*part;
+        Field<P> row;
+    };
+    return std::make_shared<Within>(part, row);
+}
+
+/// The rows of a part that stands several times in a record, once for each \a word: the record's keys are those of the
+/// part's table with the word in place of their "%", and with a small first letter where the key begins with it.
+template <class T, class P> FieldRows<T> partRows(P T::*part, const QByteArray &word)
+{
+    FieldRows<T> rows;
+    for (const Field<P> &row : P::fields())
+        rows.push_back({keyWithWord(row.key, word), NotOnWire, 0, within(part, row), row.form});
+    return rows;
 }

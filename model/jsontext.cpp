@@ -19,6 +19,12 @@ bool isPlain(const QString &text)
 
 } // namespace
 
+std::optional<QJsonObject> objectOfText(const QString &text)
+{
+    const QJsonDocument document = QJsonDocument::fromJson(text.toUtf8());
+    return document.isObject() ? std::optional(document.object()) : std::nullopt;
+}
+
 void JsonText::open(char bracket)
 {
     m_text += bracket;
@@ -49,7 +55,7 @@ void JsonText::next()
         m_text.append(Indent * m_depth, ' ');
 }
 
-void JsonText::key(const char *key)
+void JsonText::key(const QByteArray &key)
 {
     next();
     m_text.append('"').append(key).append(m_compact ? "\":" : "\": ");
@@ -65,6 +71,16 @@ void JsonText::value(const QString &text)
     for (const QChar c : text)
         m_text += c.toLatin1();
     m_text += '"';
+}
+
+void JsonText::value(const QStringList &texts)
+{
+    beginArray();
+    for (const QString &text : texts) {
+        element();
+        value(text);
+    }
+    endArray();
 }
 
 // As the only element of an array it is printed by the library; its lines then move to the depth where it stands here.

@@ -3,8 +3,15 @@
 
 #include <QByteArray>
 #include <QJsonDocument>
+#include <QJsonObject>
 #include <QJsonValue>
 #include <QString>
+#include <QStringList>
+
+#include <optional>
+
+/// The object that the JSON text \a text is; nothing for any other text.
+std::optional<QJsonObject> objectOfText(const QString &text);
 
 /// Writes JSON text piece by piece, byte for byte as QJsonDocument prints it. A day of records is written many times
 /// faster so than by building the tree of all of it first. Keys are to come in the order in which QJsonObject has them.
@@ -18,11 +25,12 @@ public:
     void beginArray() { open('['); }
     void endArray() { close(']'); }
     /// Begins a member of an object; its value follows.
-    void key(const char *key);
+    void key(const QByteArray &key);
     /// Begins an element of an array; its value follows.
     void element() { next(); }
 
     void value(const QString &text);
+    void value(const QStringList &texts);
     void value(int number) { m_text += QByteArray::number(number); }
     void value(const QJsonValue &value);
 

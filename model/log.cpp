@@ -27,3 +27,9 @@ void Log::writeText(JsonText &out) const
 void Log::fromJson(const QJsonObject &)
 {
 }
+
+Pieces recordPieces(const QByteArray &line)
+{
+    const int end = line.indexOf('\0');
+    return pieces(end < 0 ? line : line.left(end), "+VFRDXP: ");
+}

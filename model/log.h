@@ -34,15 +34,33 @@ protected:
     QDateTime m_registerDate;
 };
 
-/// A record that is described by its table: \a T has `static const Fields<T> &fields()` for this base to use.
-template <class T> class LogOf : public Log
+/// The pieces of a "+VFRDXP: " line, up to a NUL.
+Pieces recordPieces(const QByteArray &line);
+
+/// A record that is described by its table: \a T has `static const Fields<T> &fields()` for this base to use, and comes in
+/// one line of at least \a leastPieces pieces.
+template <class T, int leastPieces> class LogOf : public Log
 {
 public:
     using Log::Log;
 
+    [[nodiscard]] int parse(const QByteArray &line) override
+    {
+        const Pieces record = recordPieces(line);
+        if (record.size() < leastPieces)
+            return 1;
+        readPieces(static_cast<T &>(*this), T::fields(), InRecord, record);
+        readParts(record);
+        return 0;
+    }
+
     QJsonObject toJson() const override { return writeJson(self(), T::fields()); }
     void writeText(JsonText &out) const override { ::writeText(out, self(), T::fields()); }
     void fromJson(const QJsonObject &object) override { readJson(static_cast<T &>(*this), T::fields(), object); }
+
+protected:
+    /// Takes over what stands several times in a record.
+    virtual void readParts(const Pieces &) {}
 
 private:
     const T &self() const { return static_cast<const T &>(*this); }

@@ -15,7 +15,7 @@ const Fields<Results> &Results::closingFields()
 
 int Results::parseClosingRecord(const QByteArray &text)
 {
-    const Pieces record = pieces(text, "+VFXPHDR: ");
+    const Pieces record = pieces(text, HeaderTag);
     if (parseHeader(*this, closingFields(), 8, record, 7) != 0)
         return -1;
     m_stopReason = QString::fromUtf8(record[6]); // the one text that instruments send as UTF-8

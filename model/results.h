@@ -7,6 +7,8 @@
 
 class Experiment;
 
+constexpr char HeaderTag[] = "+VFXPHDR: "; ///< in front of each line of a header
+
 /// What the instrument itself computed of one experiment, and what the user's decisions add to it.
 /// Owned by its Experiment. The base holds the closing record (header 8): battery, charge counter, reason of the end.
 class Results : public QObject
@@ -45,4 +47,52 @@ private:
     int m_coulombCounterStart = 0;
     int m_coulombCounterStop = 0;
     QString m_stopReason;
+};
+
+/// What all instruments tell alike of the times of a measurement.
+class TimedResults : public Results
+{
+    Q_OBJECT
+
+public:
+    /// "hh:mm:ss", or whole seconds, as the family has it.
+    QString duration() const { return m_duration; }
+    /// "hh:mm:ss".
+    QString pauseTime() const { return m_pauseTime; }
+    QDateTime startTime() const { return m_startTime; }
+    QDateTime stopTime() const { return m_stopTime; }
+
+protected:
+    QString m_duration;
+    QString m_pauseTime;
+    QDateTime m_startTime;
+    QDateTime m_stopTime;
+};
+
+/// Results over \a Base that are described by their table: \a T has `static const Fields<T> &fields()` for this base to use.
+template <class T, class Base = TimedResults> class ResultsOf : public Base
+{
+public:
+    QJsonObject toJson() const override
+    {
+        return computed(writeJson(self(), T::fields(), writeJson<Results>(*this, Base::closingFields())));
+    }
+    void fromJson(const QJsonObject &object) override
+    {
+        readJson<Results>(*this, Base::closingFields(), object);
+        readJson(self(), T::fields(), object);
+    }
+
+protected:
+    /// Reads header \a number of one line: 0, or -1 with fewer than \a atLeast pieces or another number in front.
+    [[nodiscard]] int readHeader(int number, const QByteArray &answer, int atLeast)
+    {
+        return parseHeader(self(), T::fields(), number, pieces(answer, HeaderTag), atLeast);
+    }
+    /// \a object with what is computed anew each time and not read back.
+    virtual QJsonObject computed(QJsonObject object) const { return object; }
+
+private:
+    T &self() { return static_cast<T &>(*this); }
+    const T &self() const { return static_cast<const T &>(*this); }
 };

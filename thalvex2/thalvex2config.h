@@ -2,12 +2,13 @@
 #pragma once
 
 #include "heatstress/heatstressconfig.h"
-#include "thalvex2/thalvex2.h"
 
 class Thalvex2Config : public HeatStressConfig
 {
     Q_OBJECT
 
 public:
-    Thalvex2Config() : HeatStressConfig(Thalvex2::Name) {}
+    static constexpr QLatin1String Product{"THALVEX 2"};
+
+    Thalvex2Config() : HeatStressConfig(Product) {}
 };

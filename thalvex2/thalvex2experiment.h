@@ -11,8 +11,5 @@ class Thalvex2Experiment : public ExperimentOf<Experiment, Thalvex2Log, Thalvex2
     Q_OBJECT
 
 public:
-    Thalvex2Experiment() : ExperimentOf(Thalvex2::Name) {}
-
-    /// A list line: at least 5 fields.
-    [[nodiscard]] int parseHeader(const QByteArray &line) override { return parseListLine(line, 5).isEmpty() ? -1 : 0; }
+    Thalvex2Experiment() : ExperimentOf(Thalvex2::Name, {5}) {}
 };

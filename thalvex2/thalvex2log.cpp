@@ -14,12 +14,3 @@ const Fields<Thalvex2Log> &Thalvex2Log::fields()
     };
     return rows;
 }
-
-int Thalvex2Log::parse(const QByteArray &line)
-{
-    const Pieces record = pieces(line, "+VFRDXP: ");
-    if (record.size() < 10)
-        return 1;
-    readPieces(*this, fields(), InRecord, record);
-    return 0;
-}

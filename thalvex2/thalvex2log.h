@@ -4,7 +4,7 @@
 #include "model/log.h"
 
 /// One sample: three temperatures and two WBGT values, as the instrument sent them, in the unit of the measurement.
-class Thalvex2Log : public LogOf<Thalvex2Log>
+class Thalvex2Log : public LogOf<Thalvex2Log, 10>
 {
     Q_OBJECT
     Q_PROPERTY(QString wetTemperature MEMBER m_wetTemperature NOTIFY logItemChanged)
@@ -21,9 +21,6 @@ public:
     QString IBUTGi() const { return m_IBUTGi; }
     /// WBGT with solar load.
     QString IBUTGe() const { return m_IBUTGe; }
-
-    /// A record: at least 10 fields.
-    [[nodiscard]] int parse(const QByteArray &line) override;
 
     static const Fields<Thalvex2Log> &fields();
 

@@ -22,29 +22,3 @@ const Fields<Thalvex2Results> &Thalvex2Results::fields()
     };
     return rows;
 }
-
-int Thalvex2Results::parseHeader1(const QByteArray &answer)
-{
-    return parseHeader(*this, fields(), 1, pieces(answer, "+VFXPHDR: "), 6);
-}
-
-int Thalvex2Results::parseHeader2(const QByteArray &answer)
-{
-    return parseHeader(*this, fields(), 2, pieces(answer, "+VFXPHDR: "), 8);
-}
-
-int Thalvex2Results::parseHeader3(const QByteArray &answer)
-{
-    return parseHeader(*this, fields(), 3, pieces(answer, "+VFXPHDR: "), 8);
-}
-
-QJsonObject Thalvex2Results::toJson() const
-{
-    return writeJson(*this, fields(), writeJson<Results>(*this, closingFields()));
-}
-
-void Thalvex2Results::fromJson(const QJsonObject &object)
-{
-    readJson<Results>(*this, closingFields(), object);
-    readJson(*this, fields(), object);
-}

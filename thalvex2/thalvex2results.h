@@ -5,7 +5,7 @@
 
 /// The summary of one measurement, as the instrument computed it: extremes of the three temperatures, averages of the
 /// two WBGT values. Temperatures are in the unit of the measurement.
-class Thalvex2Results : public HeatStressResults
+class Thalvex2Results : public ResultsOf<Thalvex2Results, HeatStressResults>
 {
     Q_OBJECT
     Q_PROPERTY(double dry_T_Max READ dryTMax CONSTANT)
@@ -27,18 +27,15 @@ public:
     double IBUTGiMed() const { return m_IBUTGiMed; }
     double IBUTGeMed() const { return m_IBUTGeMed; }
     /// Interval, pause, duration and unit: at least 6 fields. 0, or -1 for an answer that is refused.
-    [[nodiscard]] int parseHeader1(const QByteArray &answer);
+    [[nodiscard]] int parseHeader1(const QByteArray &answer) { return readHeader(1, answer, 6); }
     /// WBGT averages, start and stop: at least 8 fields.
-    [[nodiscard]] int parseHeader2(const QByteArray &answer);
+    [[nodiscard]] int parseHeader2(const QByteArray &answer) { return readHeader(2, answer, 8); }
     /// Extremes: at least 8 fields.
-    [[nodiscard]] int parseHeader3(const QByteArray &answer);
+    [[nodiscard]] int parseHeader3(const QByteArray &answer) { return readHeader(3, answer, 8); }
 
-    QJsonObject toJson() const override;
-    void fromJson(const QJsonObject &object) override;
-
-private:
     static const Fields<Thalvex2Results> &fields();
 
+private:
     double m_dryTMax = 0;
     double m_dryTMin = 0;
     double m_wetTMax = 0;

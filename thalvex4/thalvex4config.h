@@ -2,12 +2,13 @@
 #pragma once
 
 #include "heatstress/heatstressconfig.h"
-#include "thalvex4/thalvex4.h"
 
 class Thalvex4Config : public HeatStressConfig
 {
     Q_OBJECT
 
 public:
-    Thalvex4Config() : HeatStressConfig(Thalvex4::Name) {}
+    static constexpr QLatin1String Product{"THALVEX 4"};
+
+    Thalvex4Config() : HeatStressConfig(Product) {}
 };

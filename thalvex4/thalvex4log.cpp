@@ -29,13 +29,8 @@ const Fields<Thalvex4Log> &Thalvex4Log::fields()
     return rows;
 }
 
-int Thalvex4Log::parse(const QByteArray &line)
+void Thalvex4Log::readParts(const Pieces &record)
 {
-    const Pieces record = pieces(line, "+VFRDXP: ");
-    if (record.size() < 37)
-        return 1;
-    readPieces(*this, fields(), InRecord, record);
     m_enviromentalFactorsList =
         readBlocks<EnvironmentalFactors>(InRecord, record, 5, 8, 1 + Thalvex4::MaxExpansions);
-    return 0;
 }

@@ -53,14 +53,9 @@ const Fields<Thalvex4Results> &Thalvex4Results::fields()
     return rows;
 }
 
-int Thalvex4Results::parseHeader1(const QByteArray &answer)
-{
-    return parseHeader(*this, fields(), 1, pieces(answer, "+VFXPHDR: "), 11);
-}
-
 int Thalvex4Results::parseHeader2(const QByteArray &answer)
 {
-    const Pieces header = pieces(answer, "+VFXPHDR: ");
+    const Pieces header = pieces(answer, HeaderTag);
     if (parseHeader(*this, fields(), 2, header, 3) != 0)
         return -1;
     limitExpansions();
@@ -77,7 +72,7 @@ int Thalvex4Results::parseHeader2(const QByteArray &answer)
 
 int Thalvex4Results::parseHeader3(const QByteArray &answer)
 {
-    const Pieces header = pieces(answer, "+VFXPHDR: ");
+    const Pieces header = pieces(answer, HeaderTag);
     if (parseHeader(*this, fields(), 3, header, 4) != 0)
         return -1;
     m_wbgtList = readBlocks<WbgtAverages>(3, header, 2, 2, 1 + Thalvex4::MaxExpansions);
@@ -86,7 +81,7 @@ int Thalvex4Results::parseHeader3(const QByteArray &answer)
 
 int Thalvex4Results::parseHeader4(const QByteArray &answer)
 {
-    const Pieces header = pieces(answer, "+VFXPHDR: ");
+    const Pieces header = pieces(answer, HeaderTag);
     if (parseHeader(*this, fields(), 4, header, 8) != 0)
         return -1;
     m_maxMinTemperatures = readBlocks<TemperatureExtremes>(4, header, 2, 6, 1 + Thalvex4::MaxExpansions);
@@ -99,14 +94,8 @@ void Thalvex4Results::limitExpansions()
     m_numberOfExpansions = qBound(0, m_numberOfExpansions, Thalvex4::MaxExpansions);
 }
 
-QJsonObject Thalvex4Results::toJson() const
-{
-    return writeJson(*this, fields(), writeJson<Results>(*this, closingFields()));
-}
-
 void Thalvex4Results::fromJson(const QJsonObject &object)
 {
-    readJson<Results>(*this, closingFields(), object);
-    readJson(*this, fields(), object);
+    ResultsOf::fromJson(object);
     limitExpansions();
 }

@@ -33,7 +33,7 @@ struct TemperatureExtremes {
 };
 
 /// The summary of one measurement with its expansion units, as the instrument computed it.
-class Thalvex4Results : public HeatStressResults
+class Thalvex4Results : public ResultsOf<Thalvex4Results, HeatStressResults>
 {
     Q_OBJECT
 
@@ -48,7 +48,7 @@ public:
     const QVector<TemperatureExtremes> &maxMinTemperatures() const { return m_maxMinTemperatures; }
 
     /// Times, interval and unit: at least 11 fields. 0, or -1 for an answer that is refused.
-    [[nodiscard]] int parseHeader1(const QByteArray &answer);
+    [[nodiscard]] int parseHeader1(const QByteArray &answer) { return readHeader(1, answer, 11); }
     /// Expansion boards: at least 3 fields.
     [[nodiscard]] int parseHeader2(const QByteArray &answer);
     /// WBGT averages of each unit: at least 4 fields.
@@ -56,11 +56,11 @@ public:
     /// Extremes of each unit: at least 8 fields.
     [[nodiscard]] int parseHeader4(const QByteArray &answer);
 
-    QJsonObject toJson() const override;
     void fromJson(const QJsonObject &object) override;
 
-private:
     static const Fields<Thalvex4Results> &fields();
+
+private:
     void limitExpansions();
 
     int m_numberOfExpansions = 0;

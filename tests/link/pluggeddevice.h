@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include "link/device.h"
 #include "link/factories.h"
-#include "heatstress/heatstressdevice.h"
 #include "simulator/families.h"
 #include "simulator/simulatedinstrument.h"
 
@@ -14,10 +14,10 @@ struct PluggedDevice {
         plain.setProductName(QString::fromLatin1(instrument.inside().identity().product));
         if (plain.openPort(instrument.portName()) != 0)
             qFatal("%s cannot be opened", qPrintable(instrument.portName()));
-        device.reset(static_cast<HeatStressDevice *>(FactoryDevice::create(&plain)));
+        device.reset(FactoryDevice::create(&plain));
     }
 
     SimulatedInstrument instrument;
     Device plain;
-    std::unique_ptr<HeatStressDevice> device;
+    std::unique_ptr<Device> device;
 };

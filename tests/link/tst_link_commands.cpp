@@ -4,7 +4,6 @@
 #include "tests/link/pluggeddevice.h"
 
 #include "model/experiment.h"
-#include "heatstress/heatstressconfig.h"
 #include "model/results.h"
 
 #include <QJsonDocument>
@@ -32,7 +31,7 @@ struct Command {
     const char *name;
     QByteArray bytes; ///< exactly what is sent
     Codes codes;
-    int (*run)(HeatStressDevice &device);
+    int (*run)(Device &device);
     bool tellsOfBusy = false;
 };
 
@@ -44,50 +43,53 @@ template <class E> void setExperiment(E &experiment)
 
 const QDateTime when(QDate(2019, 10, 9), QTime(9, 37, 1), Qt::OffsetFromUTC, -3 * 3600);
 
+int sendConfiguration(Device &device)
+{
+    (void)device.config()->fromJson(R"({"unity":"°F","sampleTime":"59:59"})");
+    return device.sndConfiguration();
+}
+
 QVector<Command> commands()
 {
     return {
-        {"identify", "AT+CGMI\r\n", identification, [](HeatStressDevice &d) { return d.identify(); }},
+        {"identify", "AT+CGMI\r\n", identification, [](Device &d) { return d.identify(); }},
         {"clock", "AT+CCLK=\"19/10/09,09:37:01-12\"\r\n", byTheEnd,
-         [](HeatStressDevice &d) { return d.setClock(when); }},
-        {"erase", "AT+VFERSMM\r\n", byTheEnd, [](HeatStressDevice &d) { return d.eraseMemory(); }},
-        {"service setting", "AT+VFSVCCFG?\r\n", byTheEnd, [](HeatStressDevice &d) { return d.acquireServiceConfig(); }},
-        {"unit", "AT+VFUNIT?\r\n", byTheEnd,
-         [](HeatStressDevice &d) { return d.acquireUnit(static_cast<HeatStressConfig *>(d.config())); }},
-        {"interval", "AT+VFINTVL?\r\n", byTheEnd,
-         [](HeatStressDevice &d) { return d.acquireSampleTime(static_cast<HeatStressConfig *>(d.config())); }},
-        {"set unit", "AT+VFUNIT=\"F\"\r\n", refusalIsWhole, [](HeatStressDevice &d) { return d.sndUnit("F"); }},
-        {"set interval", "AT+VFINTVL=3599\r\n", refusalIsWhole,
-         [](HeatStressDevice &d) { return d.sndSampleTime("59:59"); }},
+         [](Device &d) { return d.setClock(when); }},
+        {"erase", "AT+VFERSMM\r\n", byTheEnd, [](Device &d) { return d.eraseMemory(); }},
+        {"service setting", "AT+VFSVCCFG?\r\n", byTheEnd, [](Device &d) { return d.acquireServiceConfig(); }},
+        {"unit", "AT+VFUNIT?\r\n", byTheEnd, [](Device &d) { return d.acquireConfiguration(); }},
+        {"interval", "AT+VFINTVL?\r\n", byTheEnd, [](Device &d) { return d.acquireConfiguration(); }},
+        {"set unit", "AT+VFUNIT=\"F\"\r\n", refusalIsWhole, sendConfiguration},
+        {"set interval", "AT+VFINTVL=3599\r\n", refusalIsWhole, sendConfiguration},
         {"set calibration", "AT+VFCTF=\"19/10/09,09:37:01-12\",\"CAL \xC7/7\"\r\n", allIsWhole,
-         [](HeatStressDevice &d) {
+         [](Device &d) {
              const Calibration calibration{when, "cal ç/7"};
              return d.sndCalibration(&calibration);
          },
          true},
-        {"calibration", "AT+VFCTF?\r\n", calibrationRead, [](HeatStressDevice &d) { return d.acquireCalibration(); }},
+        {"calibration", "AT+VFCTF?\r\n", calibrationRead, [](Device &d) { return d.acquireCalibration(); }},
         {"list", "AT+VFXPLST\r\n", allOrNothing,
-         [](HeatStressDevice &d) {
+         [](Device &d) {
              const QList<Experiment *> list = d.acquireExperimentList();
              const int code = list.size() == 1 && list.first()->index() == 1 && list.first()->size() == 2 ? 0 : -1;
              qDeleteAll(list);
              return code;
          }},
         {"records", "AT+VFRDXP=1,1,2\r\n", twoRecords,
-         [](HeatStressDevice &d) {
+         [](Device &d) {
              const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(d.productName()));
              setExperiment(experiment);
              return d.acquireLogs(experiment.get()).size() == 2 ? 0 : -1;
          }},
         {"first header", "AT+VFXPHDR=1,1\r\n", allOrNothing,
-         [](HeatStressDevice &d) {
+         [](Device &d) {
              const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(d.productName()));
              setExperiment(experiment);
              const std::unique_ptr<Results> results(d.acquireResults(experiment.get()));
              return results ? 0 : -1;
          }},
         {"closing record", "AT+VFXPHDR=8,1\r\n", closingRecord,
-         [](HeatStressDevice &d) {
+         [](Device &d) {
              const std::unique_ptr<Results> results(FactoryResults::create(d.productName()));
              return d.finishHeaderRead(results.get(), 1);
          },

@@ -88,6 +88,11 @@ private slots:
         QTest::newRow("tag, quotes, line feeds") << QByteArray("+T: 1,\"a b\",\n2\n") << QByteArrayList{"1", "a b", "2"};
         QTest::newRow("empty pieces count") << QByteArray(",,") << QByteArrayList{"", "", ""};
         QTest::newRow("nothing") << QByteArray() << QByteArrayList{""};
+        QTest::newRow("commas in a name") << QByteArray("1,\"a,b,\",2,\"\",3") << QByteArrayList{"1", "a,b,", "2", "", "3"};
+        QTest::newRow("date and time in one text")
+            << QByteArray("\"21/03/05,14:30:00-12\",\"21/03/05,late\"")
+            << QByteArrayList{"21/03/05", "14:30:00-12", "21/03/05,late"};
+        QTest::newRow("a quote too many") << QByteArray("1,\"a\"b,c\",2") << QByteArrayList{"1", "ab", "c", "2"};
     }
     void takesAnswersApart()
     {
@@ -277,8 +282,8 @@ private slots:
         Thalvex4Config large;
         const std::pair<HeatStressConfig *, const char *> both[] = {{&simple, "THALVEX 2"}, {&large, "THALVEX 4"}};
         for (const auto &[config, product] : both) {
-            config->setUnityFromDevice(unit);
-            config->setSampleTimeFromDevice(interval);
+            HeatStressConfig::settings()[0].read(*config, unit);
+            HeatStressConfig::settings()[1].read(*config, interval);
             const QJsonObject wanted = json("{'productName':'" + QByteArray(product) + "'," + expected + '}');
             QCOMPARE(text(config->toJson()), text(wanted));
             for (const char *refused : {"[]", "", "x", "5", "null"})

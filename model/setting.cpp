@@ -1,0 +1,48 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "model/setting.h"
+
+#include "model/field.h"
+
+namespace {
+
+/// Seconds of two numbers with a colon between them, of which the first counts \a unit seconds.
+int secondsOf(const QString &text, int unit)
+{
+    const QStringList parts = text.split(QLatin1Char(':'));
+    return parts.value(0).toInt() * unit + parts.value(1).toInt() * (unit / 60);
+}
+
+} // namespace
+
+QString settingText(QByteArray payload, SettingForm form)
+{
+    switch (form) {
+    case SettingForm::MinuteSecond:
+        return QString::asprintf("%02d:%02d", payload.toInt() / 60, payload.toInt() % 60);
+    case SettingForm::HourMinute:
+        return QString::asprintf("%02d:%02d", payload.toInt() / 3600, payload.toInt() / 60 % 60);
+    case SettingForm::Degree:
+        return wireText(payload.replace('"', ""), Form::Degree);
+    case SettingForm::Quoted:
+    case SettingForm::Whole:
+        break;
+    }
+    return QString::fromLatin1(payload.replace('"', ""));
+}
+
+QByteArray settingWire(const QString &text, SettingForm form)
+{
+    switch (form) {
+    case SettingForm::MinuteSecond:
+        return QByteArray::number(secondsOf(text, 60));
+    case SettingForm::HourMinute:
+        return QByteArray::number(secondsOf(text, 3600));
+    case SettingForm::Degree:
+        return '"' + text.mid(1).toLatin1() + '"';
+    case SettingForm::Quoted:
+        return '"' + text.toLatin1() + '"';
+    case SettingForm::Whole:
+        break;
+    }
+    return text.toLatin1();
+}
