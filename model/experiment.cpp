@@ -178,6 +178,8 @@ void Experiment::append(Experiment *experiment)
         last = last->m_next;
     last->m_next = experiment;
     experiment->m_prev = last;
+    for (Experiment *member = experiment; member; member = member->m_next)
+        member->m_ordinal = member->m_prev->m_ordinal + 1;
 }
 
 int Experiment::chainPosition() const
@@ -185,14 +187,6 @@ int Experiment::chainPosition() const
     if (!m_prev)
         return m_next ? FirstItem : UniqueItem;
     return m_next ? MiddleItem : LastItem;
-}
-
-int Experiment::ordinal() const
-{
-    int place = 1;
-    for (const Experiment *member = m_prev; member; member = member->m_prev)
-        ++place;
-    return place;
 }
 
 void Experiment::deleteChain()

@@ -68,9 +68,7 @@ public:
     virtual void fromJson(const QJsonObject &body);
 
     Experiment *next() const { return m_next; }
-    void setNext(Experiment *next) { m_next = next; }
     Experiment *prev() const { return m_prev; }
-    void setPrev(Experiment *prev) { m_prev = prev; }
     /// First member of the chain.
     Experiment *first();
     const Experiment *first() const;
@@ -78,7 +76,7 @@ public:
     void append(Experiment *experiment);
     int chainPosition() const;
     /// Place in the chain, from 1: the experiment's number in a report.
-    int ordinal() const;
+    int ordinal() const { return m_ordinal; }
     /// Deletes the whole chain, this member included. Called on the first member.
     void deleteChain();
 
@@ -106,6 +104,7 @@ private:
     std::unique_ptr<Results> m_results;
     Experiment *m_next = nullptr;
     Experiment *m_prev = nullptr;
+    int m_ordinal = 1;
 };
 
 /// An experiment over \a Base whose records are of type \a L and whose results of type \a R.

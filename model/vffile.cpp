@@ -3,6 +3,7 @@
 
 #include "model/buildinfo.h"
 #include "model/jsontext.h"
+#include "model/memory.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -60,22 +61,32 @@ QJsonObject VfFile::frame(const QByteArray &content)
 
 Experiment *VfFile::readExperiments(const QByteArray &content, Experiment *(*newExperiment)(), Members members)
 {
-    const QJsonObject root = frame(content);
-    m_framed.clear(); // the text of a day of records is large: let go of it with the last use
-    m_document = {};
-    if (m_status != NoError)
-        return nullptr;
+    (void)frame(content);
+    m_framed.clear();
+    Experiment *first = nullptr;
+    {
+        const QJsonObject root = std::exchange(m_document, {}); // a day of records is large: gone with the last use
+        if (m_status == NoError)
+            first = readBody(root, newExperiment, members);
+    }
+    returnFreedMemory();
+    return first;
+}
 
+Experiment *VfFile::readBody(const QJsonObject &root, Experiment *(*newExperiment)(), Members members)
+{
     const QJsonValue body = root[QLatin1String("Body")];
     // an experiment may also stand alone under "Body", or in its place
-    QJsonArray bodies = body.isArray() ? body.toArray() : QJsonArray{body.isObject() ? body.toObject() : root};
+    const QJsonArray bodies = body.isArray() ? body.toArray() : QJsonArray{body.isObject() ? body.toObject() : root};
     ExperimentChain chain;
-    for (const QJsonValue &element : qAsConst(bodies)) {
+    Experiment *last = nullptr;
+    for (const QJsonValue &element : bodies) {
         Experiment *experiment = newExperiment();
-        if (chain)
-            chain->append(experiment);
+        if (last)
+            last->append(experiment); // behind the first, a file of thousands would be walked for each of them
         else
             chain.reset(experiment);
+        last = experiment;
         experiment->fromJson(element.toObject());
         if (members == Members::First)
             break;
@@ -83,15 +94,29 @@ Experiment *VfFile::readExperiments(const QByteArray &content, Experiment *(*new
     return chain.release();
 }
 
+// Nothing is written beside the file. An older one is not truncated but written over, so that its bytes, which are kept
+// meanwhile, find their place again when the disk has no room for the new ones.
 bool VfFile::save(const QByteArray &content)
 {
-    if (!open(QIODevice::WriteOnly))
+    const bool existed = QFileInfo::exists(fileName()); // a link to no file is none
+    if (!(existed && open(ReadWrite | Unbuffered)) && !open(WriteOnly | Unbuffered))
         return false;
-    const bool written = write(content) == content.size() && flush();
+    const bool kept = isReadable() && !isSequential();
+    const QByteArray before = kept ? readAll() : QByteArray();
+    const bool written = writeWhole(content);
+    if (!written && kept)
+        (void)writeWhole(before);
     close();
-    if (!written && QFileInfo(*this).isFile())
-        remove();
+    if (!written && !existed) // through a link it is the file behind it that was made
+        QFile::remove(QFileInfo(fileName()).canonicalFilePath());
     return written;
+}
+
+bool VfFile::writeWhole(const QByteArray &content)
+{
+    if (isSequential())
+        return write(content) == content.size();
+    return seek(0) && write(content) == content.size() && (size() == content.size() || resize(content.size()));
 }
 
 QByteArray VfFile::contentFor(const QJsonObject &device, const Experiment *first)

@@ -36,8 +36,8 @@ public:
     /// The caller owns it.
     Device *parseDevice(QByteArray content);
 
-    /// Writes \a content to the file, which is truncated first: false when not all of it could be written; nothing of it
-    /// is left behind then.
+    /// Writes \a content to the file: false when not all of it could be written. What stood there before stands there
+    /// again then, and a file that was not there is not there.
     [[nodiscard]] bool save(const QByteArray &content);
 
     /// The bytes of a file with \a device (Device::toJson) and the chain that begins at \a first.
@@ -51,6 +51,8 @@ protected:
     Experiment *readExperiments(const QByteArray &content, Experiment *(*newExperiment)(), Members members);
 
 private:
+    static Experiment *readBody(const QJsonObject &root, Experiment *(*newExperiment)(), Members members);
+    bool writeWhole(const QByteArray &content);
     /// The JSON object in the frame of \a content; sets the status and gives an empty one when it is refused.
     QJsonObject frame(const QByteArray &content);
 

@@ -15,6 +15,9 @@
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 QByteArray stored(const QString &name)
@@ -59,6 +62,19 @@ struct Opened {
     std::unique_ptr<VfFile> file;
     std::unique_ptr<Device> device;
     ExperimentChain chain;
+};
+
+/// While it lives no file of this program can grow beyond some bytes.
+struct FullDisk {
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        getrlimit(RLIMIT_FSIZE, &before);
+        const rlimit limit{bytes, before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
+    rlimit before{};
 };
 
 } // namespace
@@ -285,6 +301,43 @@ private slots:
         QVERIFY(QFile::exists("/dev/full"));
         QVERIFY(!VfFile(folder.path()).save(content));
         QVERIFY(!VfFile(folder.filePath("no/such/folder.tvx")).save(content));
+    }
+
+    void keepsWhatAFullDiskWouldTake_data()
+    {
+        QTest::addColumn<QString>("target"); // of the link under whose name is saved
+        QTest::addColumn<QByteArray>("before");
+        QTest::newRow("an older file") << "" << QByteArray("the older measurement");
+        QTest::newRow("an older file behind a link") << "elsewhere.tvx" << QByteArray("the older measurement");
+        QTest::newRow("an older file that is longer") << "" << QByteArray(900, 'x');
+        QTest::newRow("no file") << "" << QByteArray();
+        QTest::newRow("a link to no file") << "elsewhere.tvx" << QByteArray();
+    }
+    void keepsWhatAFullDiskWouldTake()
+    {
+        QFETCH(QString, target);
+        QFETCH(QByteArray, before);
+        const QTemporaryDir folder;
+        const QString name = folder.filePath("a.tvx");
+        const QString path = target.isEmpty() ? name : folder.filePath(target);
+        QVERIFY(target.isEmpty() || QFile::link(path, name));
+        QFile file(path);
+        if (!before.isEmpty()) {
+            QVERIFY(file.open(QIODevice::WriteOnly));
+            file.write(before);
+            file.close();
+        }
+        const QStringList there = QDir(folder.path()).entryList(QDir::Files | QDir::System);
+        {
+            const FullDisk full(1000);
+            QVERIFY(!VfFile(name).save(QByteArray(5000, 'y')));
+        }
+        QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::System), there);
+        QCOMPARE(file.exists(), !before.isEmpty());
+        if (file.exists()) {
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            QCOMPARE(file.readAll(), before);
+        }
     }
 
     void fileNames_data()
