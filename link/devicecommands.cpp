@@ -67,7 +67,7 @@ QList<QByteArray> Device::acquireLogs(const Experiment *exp)
         if (reply.code != DeviceSuccessful)
             break;
         const QList<QByteArray> records = reply.data.replace("\r\n", "\n\r").split('\r');
-        if (records.size() != chunk)
+        if (exp->recordCount(records) != chunk)
             break; // fewer records than asked for, or more: none of them can be placed
         lines += records;
         done += chunk;

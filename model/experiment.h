@@ -56,6 +56,8 @@ public:
     /// An empty record of the family, and empty results; the caller owns them.
     virtual Log *newLog() const = 0;
     virtual Results *newResults() const = 0;
+    /// How many records \a lines are, -1 when they are none; here each line is one.
+    virtual int recordCount(const QList<QByteArray> &lines) const { return lines.size(); }
     /// Makes a log of each line, in order. 0, or 1 at the first line that is refused.
     [[nodiscard]] virtual int parseLogs(const QList<QByteArray> &lines);
     /// The experiment as it stands in files and on the pages.

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/field.h"
 
+#include "model/clocktext.h"
+
 #include <array>
 
 namespace {
@@ -59,11 +61,6 @@ QByteArray keyWithWord(QByteArray key, QByteArray word)
     if (key.startsWith('%'))
         word.replace(0, 1, word.left(1).toLower());
     return key.replace('%', word);
-}
-
-QString clockText(int seconds)
-{
-    return QString::asprintf("%02d:%02d:%02d", seconds / 3600, seconds / 60 % 60, seconds % 60);
 }
 
 QString wireText(const QByteArray &piece, Form form)

@@ -97,9 +97,6 @@ Pieces pieces(const QByteArray &answer, const char *tag);
 /// The pieces of each line of an answer of several lines.
 QVector<Pieces> linesOf(const QByteArray &answer, const char *tag);
 
-/// Whole seconds as "hh:mm:ss"; hours grow as they need to ("100:00:00").
-QString clockText(int seconds);
-
 /// The text of \a piece as a member of form \a form keeps it.
 QString wireText(const QByteArray &piece, Form form);
 
@@ -109,6 +106,18 @@ QString sharedText(const QString &text);
 
 /// The date that stands in pieces \a at and \a at + 1.
 QDateTime wireDate(const Pieces &pieces, int at);
+
+/// What a line does that belongs to another header.
+enum class ForeignLine { IsSkipped, EndsTheWalk };
+
+/// The parts that a header tells of, one in each line.
+template <class P> struct PartLines {
+    QVector<P> parts;
+    QString count; ///< their number as the last line tells it; empty without lines
+
+    /// Whether all have come; an instrument that tells of none has none.
+    bool isComplete() const { return parts.size() == count.toInt(); }
+};
 
 /// The texts in \a array.
 QStringList textsOf(const QJsonArray &array);
@@ -156,6 +165,25 @@ template <class P> QVector<P> readBlocks(int header, const Pieces &pieces, int s
         parts.append(part);
     }
     return parts;
+}
+
+/// Reads the lines of header \a header, each of at least \a atLeast pieces, of which the third is the number of parts.
+template <class P> PartLines<P> readLines(int header, const QByteArray &answer, int atLeast, ForeignLine foreign)
+{
+    PartLines<P> lines;
+    const QVector<Pieces> all = linesOf(answer, "+VFXPHDR: ");
+    for (const Pieces &line : all) {
+        if (line.size() < atLeast || line.first() != QByteArray::number(header)) {
+            if (foreign == ForeignLine::EndsTheWalk)
+                break;
+            continue;
+        }
+        P part;
+        readPieces(part, P::fields(), InRecord, line);
+        lines.parts.append(part);
+        lines.count = wireText(line.value(2), Form::Plain);
+    }
+    return lines;
 }
 
 /// Reads header \a header: 0, or -1 with fewer than \a atLeast pieces or another number in front; nothing changes then.

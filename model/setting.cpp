@@ -1,18 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/setting.h"
 
+#include "model/clocktext.h"
 #include "model/field.h"
-
-namespace {
-
-/// Seconds of two numbers with a colon between them, of which the first counts \a unit seconds.
-int secondsOf(const QString &text, int unit)
-{
-    const QStringList parts = text.split(QLatin1Char(':'));
-    return parts.value(0).toInt() * unit + parts.value(1).toInt() * (unit / 60);
-}
-
-} // namespace
 
 QString settingText(QByteArray payload, SettingForm form)
 {
@@ -34,9 +24,9 @@ QByteArray settingWire(const QString &text, SettingForm form)
 {
     switch (form) {
     case SettingForm::MinuteSecond:
-        return QByteArray::number(secondsOf(text, 60));
+        return QByteArray::number(minuteSecondSeconds(text));
     case SettingForm::HourMinute:
-        return QByteArray::number(secondsOf(text, 3600));
+        return QByteArray::number(hourMinuteSeconds(text));
     case SettingForm::Degree:
         return '"' + text.mid(1).toLatin1() + '"';
     case SettingForm::Quoted:
