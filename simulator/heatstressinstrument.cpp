@@ -68,12 +68,6 @@ HeatStressInstrument::Summary HeatStressInstrument::summary(const SimulatedExper
     return result;
 }
 
-QByteArray HeatStressInstrument::recordStart(const SimulatedExperiment &experiment, int number)
-{
-    return QByteArray::number(experiment.index) + ',' + QByteArray::number(number) + ",0,"
-           + experiment.startDate().later(experiment.elapsed(number)).fields();
-}
-
 QByteArray HeatStressInstrument::heatFields(const HeatSample &sample)
 {
     return oneDecimal(sample.wet) + ',' + oneDecimal(sample.dry) + ',' + oneDecimal(sample.globe) + ','
@@ -91,10 +85,4 @@ QByteArray HeatStressInstrument::extremeFields(const Summary &summary)
     for (const Range &range : {summary.wet, summary.dry, summary.globe})
         fields << twoDecimals(range.most / 10.0) << twoDecimals(range.least / 10.0);
     return fields.join(',');
-}
-
-QByteArray HeatStressInstrument::oneDecimal(int tenths)
-{
-    const QByteArray whole = QByteArray::number(qAbs(tenths) / 10);
-    return (tenths < 0 ? "-" : "") + whole + '.' + char('0' + qAbs(tenths) % 10);
 }

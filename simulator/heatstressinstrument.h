@@ -28,14 +28,11 @@ protected:
     [[nodiscard]] HeatSample sample(const SimulatedExperiment &experiment, int number, int unit) const;
     [[nodiscard]] Summary summary(const SimulatedExperiment &experiment, int unit) const;
 
-    /// "index,number,0," and the date: how every record begins.
-    [[nodiscard]] static QByteArray recordStart(const SimulatedExperiment &experiment, int number);
     /// The three temperatures and the two indexes.
     [[nodiscard]] static QByteArray heatFields(const HeatSample &sample);
     [[nodiscard]] static QByteArray averageFields(const Summary &summary);
     /// Highest and lowest, wet before dry before globe.
     [[nodiscard]] static QByteArray extremeFields(const Summary &summary);
-    [[nodiscard]] static QByteArray oneDecimal(int tenths);
 
 private:
     QVector<Climate> m_climates;

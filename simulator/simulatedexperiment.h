@@ -18,6 +18,7 @@ struct SimulatedExperiment {
     int pause = 0;                                    ///< seconds of the pause
     QString name = {};                                ///< of instruments that keep names; ISO 8859-1 on the wire
     char unit = 'C';                                  ///< 'C' or 'F', as set on the instrument at that time
+    QByteArray type = {};                             ///< of instruments that measure several kinds of things
     int index = 0;                                    ///< number in the memory; 0: one more than the last
 
     /// Seconds from the start to a record (counted from 1), the pause included.

@@ -11,22 +11,22 @@ public:
     using HeatStressInstrument::HeatStressInstrument;
 
 private:
-    QByteArray record(const SimulatedExperiment &experiment, int number) const override
+    QByteArrayList record(const SimulatedExperiment &experiment, int number) const override
     {
-        return recordStart(experiment, number) + ',' + heatFields(sample(experiment, number, 0));
+        return {recordStart(experiment, number) + ',' + heatFields(sample(experiment, number, 0))};
     }
 
-    std::optional<QByteArray> header(int number, const SimulatedExperiment &experiment) const override
+    Lines header(int number, const SimulatedExperiment &experiment) const override
     {
         switch (number) {
         case 1:
-            return QByteArray::number(experiment.interval) + ',' + QByteArray::number(experiment.pauseTaken()) + ','
-                   + QByteArray::number(experiment.duration()) + ",\"" + experiment.unit + '"';
+            return {{QByteArray::number(experiment.interval) + ',' + QByteArray::number(experiment.pauseTaken()) + ','
+                   + QByteArray::number(experiment.duration()) + ",\"" + experiment.unit + '"'}};
         case 2:
-            return averageFields(summary(experiment, 0)) + ',' + experiment.startDate().fields() + ','
-                   + experiment.stopDate().fields();
+            return {{averageFields(summary(experiment, 0)) + ',' + experiment.startDate().fields() + ','
+                   + experiment.stopDate().fields()}};
         case 3:
-            return extremeFields(summary(experiment, 0));
+            return {{extremeFields(summary(experiment, 0))}};
         default:
             return {};
         }

@@ -23,30 +23,30 @@ private:
         return HeatStressInstrument::listLine(experiment) + ",\"" + experiment.name.toLatin1() + '"';
     }
 
-    QByteArray record(const SimulatedExperiment &experiment, int number) const override
+    QByteArrayList record(const SimulatedExperiment &experiment, int number) const override
     {
-        return recordStart(experiment, number) + blocks(8, [&](int unit) -> QByteArray {
+        return {recordStart(experiment, number) + blocks(8, [&](int unit) -> QByteArray {
             const HeatSample now = sample(experiment, number, unit);
             const qint64 water = qMax(qint64(5), 100 - experiment.elapsed(number) / 720); // per cent
             return heatFields(now) + ',' + oneDecimal(now.air) + ',' + QByteArray::number(water) + ','
                    + (now.tilted ? '1' : '0');
-        });
+        })};
     }
 
-    std::optional<QByteArray> header(int number, const SimulatedExperiment &experiment) const override
+    Lines header(int number, const SimulatedExperiment &experiment) const override
     {
         switch (number) {
         case 1:
-            return QByteArray::number(experiment.size) + ',' + QByteArray::number(experiment.duration()) + ','
+            return {{QByteArray::number(experiment.size) + ',' + QByteArray::number(experiment.duration()) + ','
                    + experiment.startDate().fields() + ',' + experiment.stopDate().fields() + ','
                    + QByteArray::number(experiment.pauseTaken()) + ',' + QByteArray::number(experiment.interval)
-                   + ",\"" + experiment.unit + '"';
+                   + ",\"" + experiment.unit + '"'}};
         case 2:
-            return expansionFields();
+            return {{expansionFields()}};
         case 3:
-            return blocks(2, [&](int unit) { return averageFields(summary(experiment, unit)); }).mid(1);
+            return {{blocks(2, [&](int unit) { return averageFields(summary(experiment, unit)); }).mid(1)}};
         case 4:
-            return blocks(6, [&](int unit) { return extremeFields(summary(experiment, unit)); }).mid(1);
+            return {{blocks(6, [&](int unit) { return extremeFields(summary(experiment, unit)); }).mid(1)}};
         default:
             return {};
         }

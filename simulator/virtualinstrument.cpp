@@ -187,7 +187,7 @@ VirtualInstrument::Lines VirtualInstrument::records(const QByteArray &argument) 
         return {};
     QByteArrayList lines;
     for (int number = first; number <= last; ++number)
-        lines.append(record(*found, number));
+        lines += record(*found, number);
     return lines;
 }
 
@@ -198,8 +198,22 @@ VirtualInstrument::Lines VirtualInstrument::headerRecord(const QByteArray &argum
     if (!found)
         return {};
     const int number = asked->at(0);
-    const auto fields = number == closingHeader ? closingFields(*found) : header(number, *found);
-    if (!fields)
+    Lines lines = number == closingHeader ? Lines({closingFields(*found)}) : header(number, *found);
+    if (!lines)
         return {};
-    return QByteArrayList{QByteArray::number(number) + ',' + QByteArray::number(found->index) + ',' + *fields};
+    for (QByteArray &line : *lines)
+        line.prepend(QByteArray::number(number) + ',' + QByteArray::number(found->index) + ',');
+    return lines;
+}
+
+QByteArray VirtualInstrument::recordStart(const SimulatedExperiment &experiment, int number)
+{
+    return QByteArray::number(experiment.index) + ',' + QByteArray::number(number) + ",0,"
+           + experiment.startDate().later(experiment.elapsed(number)).fields();
+}
+
+QByteArray VirtualInstrument::oneDecimal(int tenths)
+{
+    const QByteArray whole = QByteArray::number(qAbs(tenths) / 10);
+    return (tenths < 0 ? "-" : "") + whole + '.' + char('0' + qAbs(tenths) % 10);
 }

@@ -64,10 +64,15 @@ protected:
 
     /// One line of the list of measurements; the base gives number, size and date.
     [[nodiscard]] virtual QByteArray listLine(const SimulatedExperiment &experiment) const;
-    /// One record, counted from 1.
-    [[nodiscard]] virtual QByteArray record(const SimulatedExperiment &experiment, int number) const = 0;
-    /// What follows "header,index," in a numbered header; nothing for a number that the family does not have.
-    [[nodiscard]] virtual std::optional<QByteArray> header(int number, const SimulatedExperiment &experiment) const = 0;
+    /// The lines of one record, counted from 1.
+    [[nodiscard]] virtual QByteArrayList record(const SimulatedExperiment &experiment, int number) const = 0;
+    /// What follows "header,index," in each line of a numbered header; nothing for a number that the family does not have.
+    [[nodiscard]] virtual Lines header(int number, const SimulatedExperiment &experiment) const = 0;
+
+    /// "index,number,0," and the date: how records begin.
+    [[nodiscard]] static QByteArray recordStart(const SimulatedExperiment &experiment, int number);
+    /// 254 as "25.4".
+    [[nodiscard]] static QByteArray oneDecimal(int tenths);
 
 private:
     void addSharedCommands();
