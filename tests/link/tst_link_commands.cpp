@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Every command against an instrument that answers well, badly, late or not at all.
 
+#include "tests/families/familycase.h"
 #include "tests/link/pluggeddevice.h"
 
 #include "model/experiment.h"
@@ -12,28 +13,13 @@
 
 namespace {
 
-enum How { Busy, Error, Nothing, ErrorAtEnd, BusyAtEnd, OkAtEnd, WrongTag, ShortRecord };
-
-/// The code of a command by what the instrument does. "At end": behind a line of other text.
-using Codes = std::array<int, 8>;
-
 //                                busy error none  error, busy, OK at end, wrong tag, short record
-constexpr Codes byTheEnd =        {-2,  -1,   -3,   -1,    -2,   0,         0,         0};
-constexpr Codes refusalIsWhole =  {-2,  -1,   -3,   -3,    -3,   0,         0,         0};
 constexpr Codes allIsWhole =      {-2,  -1,   -1,   -1,    -1,   -1,        0,         0};
 constexpr Codes calibrationRead = {-2,  -1,   -1,   -1,    -2,   -1,        0,         -1};
 constexpr Codes closingRecord =   {-2,  -1,   -1,   -1,    -2,   -1,        -1,        -1};
 constexpr Codes allOrNothing =    {-1,  -1,   -1,   -1,    -1,   -1,        -1,        -1};
-constexpr Codes twoRecords =      {-1,  -1,   -1,   -1,    -1,   0,         -1,        0}; // two lines are two
+constexpr Codes twoLines =        {-1,  -1,   -1,   -1,    -1,   0,         -1,        0}; // two lines are two
 constexpr Codes identification =  {1,   1,    1,    1,     1,    0,         0,         0};
-
-struct Command {
-    const char *name;
-    QByteArray bytes; ///< exactly what is sent
-    Codes codes;
-    int (*run)(Device &device);
-    bool tellsOfBusy = false;
-};
 
 template <class E> void setExperiment(E &experiment)
 {
@@ -43,24 +29,14 @@ template <class E> void setExperiment(E &experiment)
 
 const QDateTime when(QDate(2019, 10, 9), QTime(9, 37, 1), Qt::OffsetFromUTC, -3 * 3600);
 
-int sendConfiguration(Device &device)
-{
-    (void)device.config()->fromJson(R"({"unity":"°F","sampleTime":"59:59"})");
-    return device.sndConfiguration();
-}
-
-QVector<Command> commands()
+/// The commands that all instruments answer alike.
+QVector<Exchange> sharedExchanges()
 {
     return {
         {"identify", "AT+CGMI\r\n", identification, [](Device &d) { return d.identify(); }},
         {"clock", "AT+CCLK=\"19/10/09,09:37:01-12\"\r\n", byTheEnd,
          [](Device &d) { return d.setClock(when); }},
         {"erase", "AT+VFERSMM\r\n", byTheEnd, [](Device &d) { return d.eraseMemory(); }},
-        {"service setting", "AT+VFSVCCFG?\r\n", byTheEnd, [](Device &d) { return d.acquireServiceConfig(); }},
-        {"unit", "AT+VFUNIT?\r\n", byTheEnd, [](Device &d) { return d.acquireConfiguration(); }},
-        {"interval", "AT+VFINTVL?\r\n", byTheEnd, [](Device &d) { return d.acquireConfiguration(); }},
-        {"set unit", "AT+VFUNIT=\"F\"\r\n", refusalIsWhole, sendConfiguration},
-        {"set interval", "AT+VFINTVL=3599\r\n", refusalIsWhole, sendConfiguration},
         {"set calibration", "AT+VFCTF=\"19/10/09,09:37:01-12\",\"CAL \xC7/7\"\r\n", allIsWhole,
          [](Device &d) {
              const Calibration calibration{when, "cal ç/7"};
@@ -75,7 +51,7 @@ QVector<Command> commands()
              qDeleteAll(list);
              return code;
          }},
-        {"records", "AT+VFRDXP=1,1,2\r\n", twoRecords,
+        {"records", "AT+VFRDXP=1,1,2\r\n", twoLines,
          [](Device &d) {
              const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(d.productName()));
              setExperiment(experiment);
@@ -97,16 +73,17 @@ QVector<Command> commands()
     };
 }
 
-std::unique_ptr<VirtualInstrument> withTwoRecords()
+QVector<SimulatedExperiment> twoRecords()
 {
     SimulatedExperiment experiment;
     experiment.size = 2;
-    return simulatedThalvex2(1, {experiment});
+    return {experiment};
 }
 
 } // namespace
 
-Q_DECLARE_METATYPE(Command)
+Q_DECLARE_METATYPE(Exchange)
+Q_DECLARE_METATYPE(const FamilyCase *)
 
 class TestLinkCommands : public QObject
 {
@@ -115,14 +92,22 @@ class TestLinkCommands : public QObject
 private slots:
     void commandsUnderFaults_data()
     {
-        QTest::addColumn<Command>("command");
+        QTest::addColumn<const FamilyCase *>("family");
+        QTest::addColumn<Exchange>("command");
         QTest::addColumn<Fault>("fault");
         QTest::addColumn<int>("code");
         QTest::addColumn<bool>("portLost");
+        addRows(familyCases().first(), sharedExchanges());
+        for (const FamilyCase &family : familyCases())
+            addRows(family, family.exchanges);
+    }
+    static void addRows(const FamilyCase &family, const QVector<Exchange> &exchanges)
+    {
         const QByteArray other = "\r\nnews\r\n";
-        for (const Command &command : commands()) {
+        for (const Exchange &command : exchanges) {
             const auto row = [&](const char *what, const Fault &fault, int code, bool portLost = false) {
-                QTest::addRow("%s, %s", command.name, what) << command << fault.on(command.bytes) << code << portLost;
+                QTest::addRow("%s: %s, %s", family.product, command.name, what)
+                    << &family << command << fault.on(command.bytes) << code << portLost;
             };
             const Codes &codes = command.codes;
             row("answered", Fault(), 0);
@@ -144,10 +129,13 @@ private slots:
     }
     void commandsUnderFaults()
     {
-        QFETCH(Command, command);
+        QFETCH(const FamilyCase *, family);
+        QFETCH(Exchange, command);
         QFETCH(Fault, fault);
         QFETCH(bool, portLost);
-        PluggedDevice plugged(withTwoRecords());
+        PluggedDevice plugged(family->make(twoRecords()));
+        (void)plugged.device->acquireServiceConfig(); // as a session begins
+        plugged.instrument.clearCommands();
         if (command.codes == identification)
             plugged.device->setManufactoryName("as before");
         QSignalSpy busy(plugged.device.get(), &Device::busy);
@@ -171,7 +159,7 @@ private slots:
     /// The instrument does as it was told, and the reads bring back what it holds.
     void storesAndReads()
     {
-        PluggedDevice plugged(withTwoRecords());
+        PluggedDevice plugged(simulatedThalvex2(1, twoRecords()));
         Device &device = *plugged.device;
         VirtualInstrument &inside = plugged.instrument.inside();
         const Calibration calibration{when, "cal ç/7"};
@@ -210,42 +198,43 @@ private slots:
         QVERIFY(!plain.acquireResults(nullptr));
     }
 
+    /// Settings are read and written in their order up to the first that the instrument refuses.
     void configurationStopsAtTheFirstRefusal_data()
     {
-        QTest::addColumn<Fault>("fault");
+        QTest::addColumn<const FamilyCase *>("family");
         QTest::addColumn<bool>("writes");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QByteArrayList>("sent");
-        const QByteArrayList read{"AT+VFUNIT?\r\n", "AT+VFINTVL?\r\n"};
-        const QByteArrayList write{"AT+VFUNIT=\"F\"\r\n", "AT+VFINTVL=90\r\n"};
-        QTest::newRow("read") << Fault() << false << 0 << read;
-        QTest::newRow("read, unit busy") << Fault::busy().on(read[0]) << false << -2 << read.mid(0, 1);
-        QTest::newRow("read, interval refused") << Fault::error().on(read[1]) << false << -1 << read;
-        QTest::newRow("write") << Fault() << true << 0 << write;
-        QTest::newRow("write, unit refused") << Fault::error().on(write[0]) << true << -1 << write.mid(0, 1);
-        QTest::newRow("write, interval busy") << Fault::busy().on(write[1]) << true << -2 << write;
+        QTest::addColumn<int>("refused"); // place of the command that is; -1: none
+        for (const FamilyCase &family : familyCases()) {
+            for (const bool writes : {false, true}) {
+                for (int refused = -1; refused < (writes ? family.written : family.read).size(); ++refused)
+                    QTest::addRow("%s, %s, %d", family.product, writes ? "write" : "read", refused)
+                        << &family << writes << refused;
+            }
+        }
     }
     void configurationStopsAtTheFirstRefusal()
     {
-        QFETCH(Fault, fault);
+        QFETCH(const FamilyCase *, family);
         QFETCH(bool, writes);
-        QFETCH(int, code);
-        for (auto make : {+[] { return simulatedThalvex2(1, {}); }, +[] { return simulatedThalvex4(1, 0, {}); }}) {
-            PluggedDevice plugged(make());
-            QCOMPARE(plugged.device->config()->fromJson(R"({"unity":"°F","sampleTime":"01:30"})"), 0);
-            const QJsonObject before = plugged.device->config()->toJson();
-            plugged.instrument.fault(fault);
-            QCOMPARE(writes ? plugged.device->sndConfiguration() : plugged.device->acquireConfiguration(), code);
-            QTEST(plugged.instrument.commands(), "sent");
-            const QJsonObject after = plugged.device->config()->toJson();
-            QCOMPARE(after["productName"].toString(), plugged.device->productName());
-            if (writes || code != 0)
-                QCOMPARE(after, before);
-            else
-                QCOMPARE(after["unity"].toString() + after["sampleTime"].toString(), QString("°C01:00"));
-            if (code == 0)
-                QCOMPARE(plugged.instrument.inside().setting("VFUNIT"), QByteArray(writes ? "\"F\"" : "\"C\""));
-        }
+        QFETCH(int, refused);
+        PluggedDevice plugged(family->make({}));
+        Device &device = *plugged.device;
+        QCOMPARE(device.acquireServiceConfig(), 0);
+        const QString sent = QString::fromUtf8(QJsonDocument(shortJson(family->configuration)).toJson());
+        QCOMPARE(device.config()->fromJson(sent), 0);
+        const QJsonObject before = device.config()->toJson();
+        plugged.instrument.clearCommands();
+        const QByteArrayList all = writes ? family->written : family->read;
+        if (refused >= 0)
+            plugged.instrument.fault(Fault::error().on(all[refused]));
+        QCOMPARE(writes ? device.sndConfiguration() : device.acquireConfiguration(), refused < 0 ? 0 : -1);
+        QCOMPARE(plugged.instrument.commands(), refused < 0 ? all : all.mid(0, refused + 1));
+        if (writes || refused >= 0)
+            QCOMPARE(device.config()->toJson(), before);
+        if (!writes || refused >= 0)
+            return;
+        QCOMPARE(device.acquireConfiguration(), 0); // the instrument has what was written
+        QCOMPARE(device.config()->toJson(), before);
     }
 
     void readsRecordsByTens_data()
@@ -318,46 +307,51 @@ private slots:
 
     void headersInTheirOrder_data()
     {
-        QTest::addColumn<bool>("larger");
+        QTest::addColumn<const FamilyCase *>("family");
         QTest::addColumn<Fault>("fault");
-        QTest::addColumn<QByteArray>("asked"); // numbers of the headers
+        QTest::addColumn<int>("asked"); // how many of the headers
         QTest::addColumn<bool>("read");
-        QTest::addColumn<int>("battery"); // of the closing record
-        for (const bool larger : {false, true}) {
-            const QByteArray all = larger ? "12348" : "1238";
-            const auto row = [&](const char *what, const Fault &fault, const QByteArray &asked, bool read, bool closed) {
-                QTest::addRow("%d: %s", larger ? 4 : 2, what) << larger << fault << asked << read << (closed ? 4115 : 0);
+        QTest::addColumn<bool>("closed");
+        for (const FamilyCase &family : familyCases()) {
+            const int all = family.headers.size();
+            const auto row = [&](const char *what, const Fault &fault, int asked, bool read, bool closed = false) {
+                QTest::addRow("%s: %s", family.product, what) << &family << fault << asked << read << closed;
             };
+            const auto answer = [](const char *data) {
+                return Fault::answer("\r\n+VFXPHDR: " + QByteArray(data) + "\r\n\r\nOK\r\n");
+            };
+            const bool withoutClosing = !family.closingRecordNeeded;
             row("all", Fault(), all, true, true);
-            row("second busy", Fault::busy().on("AT+VFXPHDR=2,"), "12", false, false);
-            row("third foreign", Fault::answer("\r\n+VFXPHDR: 2,1,1,2,3,4,5,6\r\n\r\nOK\r\n").on("AT+VFXPHDR=3,"), "123",
-                false, false);
-            row("first short", Fault::answer("\r\n+VFXPHDR: 1,1\r\n\r\nOK\r\n").on("AT+VFXPHDR=1,"), "1", false, false);
-            row("closing refused", Fault::error().on("AT+VFXPHDR=8,"), all, true, false);
-            row("closing busy", Fault::busy().on("AT+VFXPHDR=8,"), all, true, false);
-            row("closing short", Fault::shortRecord().on("AT+VFXPHDR=8,"), all, true, false);
-            row("closing foreign", Fault::answer("\r\n+VFXPHDR: 9,1,1,2,3,4,x\r\n\r\nOK\r\n").on("AT+VFXPHDR=8,"), all,
-                true, false);
+            row("second busy", Fault::busy().on("AT+VFXPHDR=2,"), 2, false);
+            row("second foreign", answer("7,1,1,2,3,4,5,6,7,8,9,10,11,12").on("AT+VFXPHDR=2,"), 2, false);
+            row("first short", answer("1,1").on("AT+VFXPHDR=1,"), 1, false);
+            row("closing refused", Fault::error().on("AT+VFXPHDR=8,"), all, withoutClosing);
+            row("closing busy", Fault::busy().on("AT+VFXPHDR=8,"), all, withoutClosing);
+            row("closing short", Fault::shortRecord().on("AT+VFXPHDR=8,"), all, withoutClosing);
+            row("closing foreign", answer("9,1,1,2,3,4,x").on("AT+VFXPHDR=8,"), all, withoutClosing);
         }
     }
     void headersInTheirOrder()
     {
-        QFETCH(bool, larger);
+        QFETCH(const FamilyCase *, family);
         QFETCH(Fault, fault);
-        QFETCH(QByteArray, asked);
-        PluggedDevice plugged(larger ? simulatedThalvex4() : simulatedThalvex2());
+        QFETCH(int, asked);
+        QFETCH(bool, closed);
+        PluggedDevice plugged(family->make(twoRecords()));
         plugged.instrument.fault(fault);
-        const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(plugged.device->productName()));
+        const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(family->product));
         experiment->setIndex(1);
+        QSignalSpy busy(plugged.device.get(), &Device::busy);
         const std::unique_ptr<Results> results(plugged.device->acquireResults(experiment.get()));
         QByteArrayList sent;
-        for (const char header : qAsConst(asked))
+        for (const char header : family->headers.left(asked))
             sent.append(QByteArray("AT+VFXPHDR=") + header + ",1\r\n");
-        QCOMPARE(plugged.instrument.commands(), sent);
+        QCOMPARE(plugged.instrument.commands().mid(plugged.instrument.commands().size() - asked), sent);
         QTEST(results != nullptr, "read");
-        QTEST(results ? results->vbatStart() : 0, "battery");
         if (results)
-            QVERIFY(!results->toJson()["duration"].toString().isEmpty());
+            QCOMPARE(results->vbatStart() != 0, closed);
+        const QByteArray row = QTest::currentDataTag();
+        QCOMPARE(busy.size(), row.endsWith("closing busy") || (row.endsWith("busy") && family->headersTellOfBusy) ? 1 : 0);
     }
 };
 
