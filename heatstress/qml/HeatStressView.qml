@@ -13,9 +13,6 @@ Item {
     property string outdoorRole
     property Component chart: HeatStressChart {}
     property Component resultItem: HeatStressResultItem {}
-    /// The table's width; as wide as its columns unless a family says otherwise.
-    property real tableWidth: 500 + 24
-
     /// The parsed experiment, the unit's figures, and the unit's part of a record.
     property var experiment: null
     property var figures: ({})
@@ -95,7 +92,7 @@ Item {
                 id: records
 
                 anchors { top: parent.top; bottom: parent.bottom; horizontalCenter: parent.horizontalCenter }
-                width: view.tableWidth
+                width: Math.min(parent.width, columnsWidth + barWidth)
                 indoorRole: view.indoorRole
                 outdoorRole: view.outdoorRole
                 reading: view.reading

@@ -90,8 +90,19 @@ VfPage {
             buttonLabel: qsTr("Generate report")
             onMyButtonclicked: page.openReport()
         }
-        Arrow { id: previous; backward: true; onMyImgBtnClicked: core.prevExp() }
-        Arrow { id: next; onMyImgBtnClicked: core.nextExp() }
+        // Each arrow in a place of its own: clicks on one spot go one way, also when the other arrow comes or goes.
+        Item {
+            anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: previous.implicitWidth
+            implicitHeight: previous.implicitHeight
+            Arrow { id: previous; backward: true; onMyImgBtnClicked: core.prevExp() }
+        }
+        Item {
+            anchors.verticalCenter: parent.verticalCenter
+            implicitWidth: next.implicitWidth
+            implicitHeight: next.implicitHeight
+            Arrow { id: next; onMyImgBtnClicked: core.nextExp() }
+        }
     }
 
     Loader {

@@ -18,6 +18,9 @@ C1.TableView {
         return sum
     }
 
+    /// What the bar and the frame take beside the columns.
+    readonly property real barWidth: 24
+
     function show(list) {
         model = 0
         rows = list

@@ -215,6 +215,20 @@ Item {
             compare(core.calls, calls)
         }
 
+        /// Clicks on one spot walk along a chain, whichever arrows are there.
+        function test_arrowsKeepTheirPlaces() {
+            show(-2)
+            drawn(made)
+            var next = Items.first(made, "label", "Next experiment")
+            var spot = next.mapToItem(made, next.width / 2, next.height / 2);
+            [-2, 0, 0, 0, -1].forEach(function (position) {
+                core.resultsUpdated(position)
+                drawn(made)
+                mouseClick(made, spot.x, spot.y)
+            })
+            compare(core.calls, [["nextExp"], ["nextExp"], ["nextExp"], ["nextExp"]])
+        }
+
         function report() {
             show()
             clickOn("buttonLabel", "Generate report")

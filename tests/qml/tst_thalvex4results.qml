@@ -97,22 +97,31 @@ ResultsPageCase {
             return table.cellText(table.rows[0], "WBGTo")
         }
 
-        function test_list_data() {
-            return [{ tag: "none", units: 1, names: ["Main"] },
-                    { tag: "one", units: 2, names: ["Main", "Expansion 1"] },
-                    { tag: "three", units: 4, names: ["Main", "Expansion 1", "Expansion 2", "Expansion 3"] }]
+        /// One page shows experiments of 4, 1, 3, 2 and 4 units in turn, and is looked at in each.
+        function test_numberOfUnitsChanges() {
+            [4, 1, 3, 2, 4].forEach(function (count) {
+                show(results.withUnits(count))
+                compare(listed(), ["Main", "Expansion 1", "Expansion 2", "Expansion 3"].slice(0, count))
+                made.viewItem.currentView.setTab(0)
+                compare(outdoors(), "25.60")
+                for (var n = 1; n < count; ++n) {
+                    mouseClick(Items.first(made.viewItem, "text", "Expansion " + n))
+                    compare(made.viewItem.currentUnit, n)
+                    made.viewItem.currentView.setTab(0)
+                    compare(outdoors(), (20 + n) + ".00")
+                    made.viewItem.currentView.setTab(2)
+                    compare(Items.texts(made.viewItem.currentView.resultItems.itemAt(4)).pop(), (40 + n) + ".00")
+                }
+                compare(made.viewItem.currentView.currentTab, count > 1 ? 2 : 0)
+                wait(50)
+            })
         }
-        function test_list(row) {
-            show(results.withUnits(row.units))
-            compare(listed(), row.names)
-            compare(outdoors(), "25.60")
-            for (var n = 1; n < row.units; ++n) {
-                mouseClick(Items.first(made.viewItem, "text", "Expansion " + n))
-                compare(made.viewItem.currentUnit, n)
-                compare(outdoors(), (20 + n) + ".00")
-                made.viewItem.currentView.setTab(2)
-                compare(Items.texts(made.viewItem.currentView.resultItems.itemAt(4)).pop(), (40 + n) + ".00")
-            }
+
+        function test_tabStaysWithAnotherUnit() {
+            show(results.withUnits(2))
+            made.viewItem.currentView.setTab(2)
+            made.viewItem.setUnit(1)
+            compare(made.viewItem.currentView.currentTab, 2)
         }
 
         function test_absurdCount_data() {

@@ -78,6 +78,7 @@ private slots:
     void cleanup();
     void fromInstrumentToFileAndBack_data();
     void fromInstrumentToFileAndBack();
+    void unitsGrowAndShrink();
     void configureAndErase_data() { products(); }
     void configureAndErase();
     void unplugInMidDownload_data() { products(); }
@@ -229,6 +230,37 @@ void TestWindow::fromInstrumentToFileAndBack()
     QCOMPARE(m_core->experiment(), downloaded);
     click(findInWindows(has("label", QStringLiteral("Back"))));
     QTRY_VERIFY(findInWindows(has("buttonLabel", QStringLiteral("Open file"))));
+}
+
+/// Experiments of 4, 1, 3, 2 and 4 units shown one after the other, by download and by file, with time for what moves.
+void TestWindow::unitsGrowAndShrink()
+{
+    const auto fileOf = [this](int units) { return m_folder.filePath(QStringLiteral("units%1.tv4").arg(units)); };
+    const auto look = [this](int units) {
+        QTRY_COMPARE(state(), QStringLiteral("Thalvex4ResultsState"));
+        const QStringList tabs{QStringLiteral("Temperature x Time"), QStringLiteral("Results")};
+        for (int unit = 1; unit < units; ++unit) {
+            click(findInWindows(has("text", QStringLiteral("Expansion %1").arg(unit))));
+            QTest::qWait(100);
+            click(findInWindows(has("text", tabs[unit % 2])));
+            QTest::qWait(300);
+        }
+        QVERIFY(!findInWindows(has("text", QStringLiteral("Expansion %1").arg(units))));
+        QTest::qWait(300);
+    };
+    for (const int units : {4, 1, 3, 2}) {
+        m_instruments[1] = std::make_unique<SimulatedInstrument>(simulatedThalvex4(2, units - 1));
+        m_core->findDevices();
+        QCOMPARE(m_core->createDevice(1), 0);
+        QCOMPARE(m_core->findExperiments(), 0);
+        QCOMPARE(m_core->createExperiment(QStringLiteral("[1]")), 0);
+        look(units);
+        QCOMPARE(m_core->saveExperimentToFile(fileOf(units)), 0);
+    }
+    for (const int units : {4, 1, 3, 2, 4}) {
+        m_core->parseFile(fileOf(units));
+        look(units);
+    }
 }
 
 void TestWindow::configureAndErase()

@@ -8,6 +8,4 @@ HeatStressView {
     outdoorRole: "WBGTo"
     chart: Thalvex4TemperatureChart {}
     resultItem: Thalvex4ResultItem {}
-    // Five of the six columns, without that of WBGTi: the last column is partly cut off, and meant to be.
-    tableWidth: 85 + 90 + 85 + 80 + 80
 }
