@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/suite.h"
 
-#include "model/buildinfo.h"
 #include "app/core.h"
 #include "app/fonts.h"
+#include "model/buildinfo.h"
 
 #include <QApplication>
 #include <QFontDatabase>
@@ -21,6 +21,7 @@ void loadMainWindow(QQmlApplicationEngine &engine, Core &core)
     engine.rootContext()->setContextProperty(QStringLiteral("core"), &core);
     engine.load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     // Not the application's lastWindowClosed: that also tells of every message and file dialog that closes.
+    QObject::connect(&engine, &QQmlEngine::quit, &core, &Core::closePorts);
     const QObjectList roots = engine.rootObjects();
     for (QObject *root : roots) {
         if (const auto window = qobject_cast<QWindow *>(root)) {
@@ -69,6 +70,12 @@ int runSuite(int argc, char **argv, PortNames portNames)
     tell(QStringLiteral("Starting models..."));
     QQmlApplicationEngine engine;
     loadMainWindow(engine, core);
+    // A message that is still open does not keep a program without its window.
+    const QObjectList roots = engine.rootObjects();
+    for (QObject *root : roots) {
+        if (const auto window = qobject_cast<QWindow *>(root))
+            QObject::connect(window, &QWindow::visibleChanged, &application, &QCoreApplication::quit);
+    }
     splash.close();
     const int code = QApplication::exec();
     // The pages go while the controller that they look at is still there.

@@ -25,6 +25,9 @@ Rectangle {
     property alias pageHome: pageHome
     property alias backButton: backButton
     readonly property alias dialogs: dialogs
+    /// Whether something is being waited for: the pages are locked then.
+    readonly property alias busy: waiting.busy
+    readonly property alias busyText: waiting.text
 
     /// The page and the state of each product that can be connected.
     readonly property var families: ({
@@ -35,6 +38,9 @@ Rectangle {
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
     function convertDateTimeATToLocalTimeString(date) { return Local.dateTime(date) }
     function leftPad(number, targetLength) { return Local.leftPad(number, targetLength) }
+
+    /// Waits for job, which what tells the user of, and hands its outcome to done.
+    function wait(what, job, done) { waiting.wait(what, job, done) }
 
     /// Shows page in state, from where its back button returns to the state before.
     function enter(page, newState) {
@@ -73,7 +79,7 @@ Rectangle {
 
             anchors { horizontalCenter: parent.horizontalCenter; top: parent.top; topMargin: Theme.margin }
             visible: false
-            enabled: !page || !page.downloading // a page is not left in the middle of a download
+            enabled: visible && !root.busy // nor has it the keyboard while hidden
             imgbtnpicdef: "/voltar1x.png"
             imgbtnpichover: "/voltar1xhover.png"
             imgbtnpicclicked: "/voltar1xclicked.png"
@@ -122,6 +128,15 @@ Rectangle {
         }
     }
 
+    VfText {
+        anchors { left: pages.left; bottom: parent.bottom; margins: Theme.margin }
+        color: Theme.quietText
+        text: waiting.text
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+
+    Waiting { id: waiting }
     VfDialogs { id: dialogs }
 
     Connections {

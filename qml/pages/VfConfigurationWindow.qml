@@ -30,10 +30,12 @@ VfWindow {
 
     width: 600
     height: 340
+    locked: root.busy
 
     Row {
         id: frames
 
+        enabled: !root.busy
         anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.margin }
         spacing: Theme.spacing
     }
@@ -50,15 +52,34 @@ VfWindow {
         Accessible.name: text
     }
 
-    Row {
+    VfText {
+        anchors { left: warning.left; bottom: warning.bottom }
+        color: Theme.quietText
+        text: root.busyText
+        visible: text !== ""
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+
+    Item {
         id: buttons
 
-        anchors { right: parent.right; bottom: parent.bottom; margins: Theme.margin }
-        spacing: Theme.gap * 1.5
+        anchors { left: parent.left; right: parent.right; bottom: parent.bottom; margins: Theme.margin }
+        enabled: !root.busy
+        height: Theme.controlHeight
 
-        MyButton { buttonLabel: qsTr("Erase memory"); onMyButtonclicked: window.dialogs.eraseDialog.open() }
-        MyButton { buttonLabel: qsTr("Close"); onMyButtonclicked: window.close() }
-        MyButton { buttonLabel: qsTr("Apply"); onMyButtonclicked: window.submitCfg() }
+        MyButton {
+            buttonLabel: qsTr("Erase memory")
+            dangerous: true
+            onMyButtonclicked: window.dialogs.eraseDialog.open()
+        }
+        Row {
+            anchors.right: parent.right
+            spacing: Theme.gap * 1.5
+
+            MyButton { buttonLabel: qsTr("Close"); onMyButtonclicked: window.close() }
+            MyButton { buttonLabel: qsTr("Apply"); onMyButtonclicked: window.submitCfg() }
+        }
     }
 
     Connections {

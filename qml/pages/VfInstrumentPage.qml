@@ -18,8 +18,6 @@ VfPage {
 
     /// Positions in the list of what is to be downloaded.
     property var selectedIdx: []
-    /// Set while an experiment is being downloaded: nothing else can be asked of the instrument then.
-    property bool downloading: false
     readonly property alias dialogs: dialogs
     readonly property alias list: list
     readonly property alias progress: progress.value
@@ -31,13 +29,18 @@ VfPage {
     /// Reads the configuration; the window must be there to hear of it.
     function configure() {
         configurationLoader.active = true
-        if (dialogs.answered(core.acquireConfiguration(), dialogs.rcvCfgErrorDialog))
-            configuration.present()
+        root.wait(qsTr("Reading the configuration") + "...", core.acquireConfiguration, function (code) {
+            if (dialogs.answered(code, dialogs.rcvCfgErrorDialog))
+                configuration.present()
+        })
     }
 
     function sendConfiguration(cfg) {
-        if (dialogs.answered(core.sndConfiguration(cfg), dialogs.configErrorDialog))
-            dialogs.configSuccesfulDialog.open()
+        root.wait(qsTr("Changing the configuration") + "...", function () { return core.sndConfiguration(cfg) },
+                  function (code) {
+            if (dialogs.answered(code, dialogs.configErrorDialog))
+                dialogs.configSuccesfulDialog.open()
+        })
     }
 
     function pick(index) {
@@ -48,19 +51,21 @@ VfPage {
     /// Downloads what is picked and saves it. A file that cannot be written is not told of: the results still show.
     function download(fileUrls) {
         var positions = selectedIdx.slice().sort(function (a, b) { return a - b })
-        progress.value = 0
-        downloading = true
-        var code = core.createExperiment(JSON.stringify(positions))
-        downloading = false
-        if (dialogs.answered(code, dialogs.downloadFailDialog))
-            core.saveExperimentToFile(fileUrls)
+        root.wait(qsTr("Downloading") + "...", function () {
+            var code = core.createExperiment(JSON.stringify(positions))
+            if (code === root.deviceSuccessful)
+                core.saveExperimentToFile(fileUrls)
+            return code
+        }, function (code) {
+            progress.value = 0
+            dialogs.answered(code, dialogs.downloadFailDialog)
+        })
     }
 
     VfDialogs { id: dialogs }
 
     PageBody {
         anchors.fill: parent
-        enabled: !page.downloading
 
         VfList {
             id: list

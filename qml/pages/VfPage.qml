@@ -9,6 +9,7 @@ Rectangle {
     property string caller
 
     color: "transparent"
+    enabled: !root.busy
     Accessible.role: Accessible.Pane
     Accessible.name: pageTitle
 

@@ -17,8 +17,14 @@ VfPage {
     /// Begins a session with an instrument of the list; the first step that fails ends it.
     function openDevice(index) {
         var steps = [function () { return core.createDevice(index) }, core.setTimeNow, core.findExperiments]
-        if (steps.every(function (step) { return dialogs.answered(step()) }))
-            root.enterFamily(core.devName)
+        root.wait(qsTr("Connecting") + "...", function () {
+            var code = root.deviceSuccessful
+            steps.every(function (step) { return (code = step()) === root.deviceSuccessful })
+            return code
+        }, function (code) {
+            if (dialogs.answered(code))
+                root.enterFamily(core.devName)
+        })
     }
 
     function openAbout() {
@@ -27,6 +33,7 @@ VfPage {
     }
 
     pageTitle: qsTr("HOME")
+    enabled: true // all but the way out is locked while something is waited for
 
     VfDialogs { id: dialogs }
 
@@ -37,6 +44,7 @@ VfPage {
             id: list
 
             anchors.fill: parent
+            enabled: !root.busy
             headerlabel: qsTr("Devices available")
             emptyText: qsTr("Connect an instrument and press \"Find device\", or open an experiment file.")
             model: core.deviceList
@@ -49,9 +57,13 @@ VfPage {
         }
 
         actions: [
-            MyButton { buttonLabel: qsTr("Find device"); onMyButtonclicked: core.findDevices() },
-            MyButton { buttonLabel: qsTr("Open file"); onMyButtonclicked: openFile.open() },
-            MyButton { buttonLabel: qsTr("About"); onMyButtonclicked: page.openAbout() },
+            MyButton {
+                buttonLabel: qsTr("Find device")
+                enabled: !root.busy
+                onMyButtonclicked: root.wait("", core.findDevices)
+            },
+            MyButton { buttonLabel: qsTr("Open file"); enabled: !root.busy; onMyButtonclicked: openFile.open() },
+            MyButton { buttonLabel: qsTr("About"); enabled: !root.busy; onMyButtonclicked: page.openAbout() },
             MyButton { buttonLabel: qsTr("Exit"); onMyButtonclicked: Qt.quit() }
         ]
     }
@@ -77,7 +89,7 @@ VfPage {
             modality: Qt.NonModal
             nameFilters: [qsTr("Suite Morvane Files ") + "(*.tvx *.tv4 *.adl *.lmt *.nbr *.nbp *.zlk)",
                           qsTr("All files ") + "(*)"]
-            onAccepted: core.parseFile(openFileDialog.fileUrls)
+            onAccepted: root.wait("", function () { core.parseFile(openFileDialog.fileUrls) })
         }
     }
 

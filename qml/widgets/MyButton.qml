@@ -8,6 +8,8 @@ AbstractButton {
     id: button
 
     property string buttonLabel
+    /// Whether it destroys something.
+    property bool dangerous: false
     readonly property alias color: face.color
 
     signal myButtonclicked()
@@ -24,8 +26,8 @@ AbstractButton {
     background: Rectangle {
         id: face
 
-        color: !button.enabled ? Theme.buttonDisabled : button.pressed ? Theme.buttonPressed
-             : button.hovered ? Theme.buttonHover : Theme.button
+        color: !button.enabled ? Theme.buttonDisabled : button.dangerous ? Qt.darker(Theme.warning, button.pressed ? 1.5 : button.hovered ? 0.85 : 1)
+             : button.pressed ? Theme.buttonPressed : button.hovered ? Theme.buttonHover : Theme.button
         radius: Theme.radius
 
         FocusFrame { shown: button.visualFocus }

@@ -34,10 +34,11 @@ Item {
     }
 
     function eraseMemory() {
-        var code = core.eraseMemory()
-        eraseInProgressDialog.close()
-        if (answered(code, eraseFailDialog))
-            eraseSuccessfulDialog.open()
+        root.wait(qsTr("Erasing Memory") + "...", core.eraseMemory, function (code) {
+            eraseInProgressDialog.close()
+            if (answered(code, eraseFailDialog))
+                eraseSuccessfulDialog.open()
+        })
     }
 
     VfMessage { id: devDisconnectedDialog; owner: dialogs; text: qsTr("Instrument disconnected") + "." }
@@ -82,13 +83,11 @@ Item {
         owner: dialogs
         text: qsTr("The file is invalid") + ". " + qsTr("Maybe it was edited by another software") + "."
     }
-    VfMessage {
+    VfQuestion {
         id: eraseDialog
         owner: dialogs
         title: qsTr("Erase memory?")
         text: qsTr("ERASE MEMORY means that all experiment will be deleted") + ". " + qsTr("Continue?")
-        icon: StandardIcon.Question
-        standardButtons: StandardButton.Yes | StandardButton.No
         onYes: dialogs.eraseMemory()
     }
     VfMessage {

@@ -2,7 +2,7 @@
 import QtQuick 2.15
 import QtQuick.Dialogs 1.3
 
-/// A message to the user; its dialog is made when it is first opened. A warning with "Ok" unless told otherwise.
+/// A message to the user; its dialog is made when it is first opened. A warning unless told otherwise.
 QtObject {
     id: message
 
@@ -10,19 +10,15 @@ QtObject {
     property string title: qsTr("Warning")
     property string text
     property int icon: StandardIcon.Warning
-    property int standardButtons: StandardButton.Ok
     property MessageDialog dialog: null
     readonly property bool visible: dialog !== null && dialog.visible
     property Component made: MessageDialog {
         title: message.title
         text: message.text
         icon: message.icon
-        standardButtons: message.standardButtons
+        standardButtons: StandardButton.Ok
         modality: Qt.ApplicationModal
-        onYes: message.yes()
     }
-
-    signal yes()
 
     function open() {
         if (dialog === null)

@@ -8,6 +8,9 @@ import "."
 Window {
     id: window
 
+    /// Set while Escape does nothing.
+    property bool locked: false
+
     function present() {
         showNormal()
         raise()
@@ -28,5 +31,5 @@ Window {
         y = Screen.virtualY + (Screen.height - height) / 2
     }
 
-    Shortcut { sequence: StandardKey.Cancel; onActivated: window.close() }
+    Shortcut { sequence: StandardKey.Cancel; enabled: !window.locked; onActivated: window.close() }
 }

@@ -168,12 +168,28 @@ Item {
             core.eraseStarted()
             compare(Dialogs.open(made.dialogs), "eraseDialog")
             core.devName = testWindow.product
-            made.dialogs.eraseDialog.close()
-            core.eraseStarted()
-            compare(Dialogs.open(made.dialogs), "eraseInProgressDialog")
-            made.dialogs.eraseDialog.dialog.yes()
+            core.meanwhile = function () {
+                core.eraseStarted()
+                compare(Dialogs.open(made.dialogs), "eraseInProgressDialog")
+            }
+            press(made.dialogs.eraseDialog.window.contentItem, "Yes")
             compare(core.calls, [["eraseMemory"]])
             compare(Dialogs.open(made.dialogs), row.dialog)
+        }
+
+        function test_eraseIsNotTheDefault_data() {
+            return [{ tag: "Return", key: Qt.Key_Return }, { tag: "Space", key: Qt.Key_Space },
+                    { tag: "Escape", key: Qt.Key_Escape }]
+        }
+
+        function test_eraseIsNotTheDefault(row) {
+            made.dialogs.eraseDialog.open()
+            var question = made.dialogs.eraseDialog.window
+            tryVerify(function () { return question.active })
+            question.contentItem.forceActiveFocus()
+            keyClick(row.key)
+            tryVerify(function () { return !question.visible })
+            compare(core.calls, [])
         }
 
         function test_list() {
@@ -229,11 +245,12 @@ Item {
         function test_download(row) {
             core.codes = { createExperiment: row.code || 0, saveExperimentToFile: row.save || 0 }
             mouseClick(made.list.view.itemAtIndex(2))
+            core.meanwhile = function () { core.progressBarUpdated(60) }
             made.saveDialog.accepted()
             compare(namesOf(core.calls), row.calls)
             compare(core.calls[0][1], "[2]")
             compare(Dialogs.open(made.dialogs), row.dialog)
-            verify(!made.downloading)
+            compare(made.progress, 0)
         }
 
         function test_positionsAreSortedAsNumbers() {

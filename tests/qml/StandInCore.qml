@@ -15,6 +15,8 @@ QtObject {
     /// The calls in order, each the name and the arguments, and the code for a name (0 unless set).
     property var calls: []
     property var codes: ({})
+    /// What happens while a call waits.
+    property var meanwhile: null
 
     signal experimentUpdated(int position)
     signal resultsUpdated(int position)
@@ -37,10 +39,13 @@ QtObject {
         experimentList = []
         calls = []
         codes = {}
+        meanwhile = null
     }
 
     function called(name, argument) {
         calls = calls.concat([argument === undefined ? [name] : [name, argument]])
+        if (meanwhile)
+            meanwhile()
         return codes[name] || 0
     }
 

@@ -14,6 +14,10 @@ QtObject {
     readonly property int expLastItem: -1
     readonly property int expMiddleItem: 0
 
+    readonly property bool busy: false
+    readonly property string busyText: ""
+
+    function wait(what, job, done) { done(job()) }
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
     function convertDateTimeATToLocalTimeString(date) { return Local.dateTime(date) }
     function leftPad(number, targetLength) { return Local.leftPad(number, targetLength) }

@@ -56,7 +56,12 @@ Item {
                 home.openFileDialog.close()
         }
 
-        function press(label) { mouseClick(Items.first(window.root, "buttonLabel", label)) }
+        function settle() { tryVerify(function () { return !window.root.busy }) }
+
+        function press(label) {
+            mouseClick(Items.first(window.root, "buttonLabel", label))
+            settle()
+        }
         function back() { mouseClick(window.root.backButton) }
 
         /// The titles of the pages on screen.
@@ -71,7 +76,10 @@ Item {
             waitForRendering(window.made)
         }
 
-        function pick() { mouseClick(home.list.view.itemAtIndex(0)) }
+        function pick() {
+            mouseClick(home.list.view.itemAtIndex(0))
+            settle()
+        }
 
         function test_startsAtHome() {
             compare(shown(), "HOME")
@@ -184,7 +192,61 @@ Item {
             compare(Array.from(home.openFileDialog.nameFilters),
                     ["Suite Morvane Files (*.tvx *.tv4 *.adl *.lmt *.nbr *.nbp *.zlk)", "All files (*)"])
             home.openFileDialog.accepted()
+            settle()
             compare(core.calls[1][0], "parseFile")
+        }
+
+        function test_lockedWhileItWaits_data() {
+            return [{ tag: "click on the instrument", property: "serialNumber", value: "1" },
+                    { tag: "click on the other", property: "serialNumber", value: "2" },
+                    { tag: "Find device", property: "buttonLabel", value: "Find device" },
+                    { tag: "Open file", property: "buttonLabel", value: "Open file" },
+                    { tag: "About", property: "buttonLabel", value: "About" },
+                    { tag: "Return", key: Qt.Key_Return }, { tag: "Down", key: Qt.Key_Down }]
+        }
+
+        /// What is clicked or pressed in the middle of a connection does nothing, then or later.
+        function test_lockedWhileItWaits(row) {
+            core.deviceList = [{ productName: "THALVEX 2", sn: "1", fw: "1" }, { productName: "THALVEX 4", sn: "2", fw: "1" }]
+            core.devName = "THALVEX 2"
+            waitForRendering(window.made)
+            home.list.view.forceActiveFocus()
+            var item = Items.first(home, row.property, row.value)
+            var input = function () {
+                if (row.key)
+                    keyClick(row.key)
+                else
+                    mouseDoubleClickSequence(item)
+            }
+            core.meanwhile = input
+            mouseClick(home.list.view.itemAtIndex(0))
+            tryCompare(core, "calls", [["createDevice", 0], ["setTimeNow"], ["findExperiments"]])
+            compare([window.root.busyText, window.root.busy], ["", true])
+            input()
+            core.meanwhile = null
+            settle()
+            compare([core.calls.length, window.root.state, Dialogs.open(home.dialogs)], [3, "Thalvex2State", ""])
+            verify(!home.about && !home.openFileDialog && home.list.currentIndex === 0)
+        }
+
+        function test_saysWhatItWaitsFor() {
+            var said = []
+            core.meanwhile = function () { said.push(window.root.busyText) }
+            found("THALVEX 2")
+            pick()
+            compare(said, ["Connecting...", "Connecting...", "Connecting..."])
+            compare(window.root.busyText, "")
+        }
+
+        function test_hiddenBackButtonHasNoFocus() {
+            found("THALVEX 2")
+            pick()
+            window.root.backButton.forceActiveFocus()
+            keyClick(Qt.Key_Return)
+            compare(window.root.state, "")
+            verify(!window.root.backButton.activeFocus)
+            keyClick(Qt.Key_Return)
+            compare(shown(), "HOME")
         }
 
         function test_about() {

@@ -84,6 +84,7 @@ private slots:
     void unplugInMidDownload_data() { products(); }
     void unplugInMidDownload();
     void closeInMidDownload();
+    void doubleClicksCountOnce();
     void refusesADamagedFile();
 
 private:
@@ -95,7 +96,10 @@ private:
     void answer(const QString &text, QMessageBox::StandardButton button);
     QString state() const { return m_root->property("state").toString(); }
     QQuickItem *experimentItem(int index) const;
-    SimulatedInstrument &instrument(const QString &product) { return *m_instruments[product == QLatin1String("THALVEX 4")]; }
+    SimulatedInstrument &instrument(const QString &product)
+    {
+        return *m_instruments[product == QLatin1String("THALVEX 4")];
+    }
 
     QTemporaryDir m_folder;
     std::vector<std::unique_ptr<SimulatedInstrument>> m_instruments;
@@ -146,6 +150,7 @@ void TestWindow::cleanup()
 void TestWindow::click(QQuickItem *item)
 {
     QVERIFY(item);
+    QTRY_VERIFY(item->isEnabled());
     const QPointF center = item->mapToScene(QPointF(item->width() / 2, item->height() / 2));
     QTest::mouseClick(item->window(), Qt::LeftButton, Qt::NoModifier, center.toPoint());
 }
@@ -161,7 +166,8 @@ void TestWindow::enter(const QString &product)
 {
     press(QStringLiteral("Find device"));
     QQuickItem *item = nullptr;
-    QTRY_VERIFY((item = findInWindows(has("serialNumber", QString::fromLatin1(instrument(product).inside().identity().serialNumber)))));
+    QTRY_VERIFY((item = findInWindows(
+                     has("serialNumber", QString::fromLatin1(instrument(product).inside().identity().serialNumber)))));
     click(item);
     QTRY_VERIFY(experimentItem(1));
 }
@@ -170,7 +176,8 @@ QQuickItem *TestWindow::experimentItem(int index) const
 {
     return findInWindows([index](const QQuickItem *item) {
         const QQmlContext *context = qmlContext(item);
-        const QObject *model = context ? context->contextProperty(QStringLiteral("modelData")).value<QObject *>() : nullptr;
+        const QObject *model =
+            context ? context->contextProperty(QStringLiteral("modelData")).value<QObject *>() : nullptr;
         return model && item->metaObject()->indexOfSignal("itemClicked()") >= 0 && model->property("index") == index;
     });
 }
@@ -197,10 +204,12 @@ void TestWindow::fromInstrumentToFileAndBack_data()
     QTest::addColumn<QString>("product");
     QTest::addColumn<QString>("fileName");
     QTest::addColumn<QString>("instrumentState");
-    QTest::newRow("plain name") << QStringLiteral("THALVEX 2") << QStringLiteral("morning.tvx") << QStringLiteral("Thalvex2State");
+    QTest::newRow("plain name") << QStringLiteral("THALVEX 2") << QStringLiteral("morning.tvx")
+                                << QStringLiteral("Thalvex2State");
     QTest::newRow("blank, accent and signs")
         << QStringLiteral("THALVEX 2") << QStringLiteral("fundição 100% #1 a+b.tvx") << QStringLiteral("Thalvex2State");
-    QTest::newRow("expansions") << QStringLiteral("THALVEX 4") << QStringLiteral("manhã.tv4") << QStringLiteral("Thalvex4State");
+    QTest::newRow("expansions") << QStringLiteral("THALVEX 4") << QStringLiteral("manhã.tv4")
+                                << QStringLiteral("Thalvex4State");
 }
 
 void TestWindow::fromInstrumentToFileAndBack()
@@ -208,7 +217,8 @@ void TestWindow::fromInstrumentToFileAndBack()
     QFETCH(QString, product);
     QFETCH(QString, fileName);
     QFETCH(QString, instrumentState);
-    const QString resultsState = QString(instrumentState).replace(QLatin1String("State"), QLatin1String("ResultsState"));
+    const QString resultsState =
+        QString(instrumentState).replace(QLatin1String("State"), QLatin1String("ResultsState"));
     const QString path = m_folder.filePath(fileName);
 
     enter(product);
@@ -269,17 +279,18 @@ void TestWindow::configureAndErase()
     enter(product);
     VirtualInstrument &inside = instrument(product).inside();
     press(QStringLiteral("Configure"));
+    QTRY_VERIFY(findInWindows(has("text", QStringLiteral("°F"))));
     click(findInWindows(has("text", QStringLiteral("°F"))));
     press(QStringLiteral("Apply"));
     answer(QStringLiteral("The changes have been applied."), QMessageBox::Ok);
     QCOMPARE(inside.setting("VFUNIT"), QByteArray("\"F\""));
 
     press(QStringLiteral("Erase memory"));
-    answer(QStringLiteral("ERASE MEMORY means that all experiment will be deleted. Continue?"), QMessageBox::No);
-    QTRY_VERIFY(!visibleWidget<QMessageBox>());
+    press(QStringLiteral("No"));
+    QTRY_VERIFY(!findInWindows(has("buttonLabel", QStringLiteral("No"))));
     QVERIFY(!inside.memory().isEmpty());
     press(QStringLiteral("Erase memory"));
-    answer(QStringLiteral("ERASE MEMORY means that all experiment will be deleted. Continue?"), QMessageBox::Yes);
+    press(QStringLiteral("Yes"));
     answer(QStringLiteral("Memory have been erased."), QMessageBox::Ok);
     QVERIFY(inside.memory().isEmpty());
     QTRY_VERIFY(!experimentItem(1));
@@ -312,6 +323,32 @@ void TestWindow::closeInMidDownload()
     QCOMPARE(m_core->createExperiment(QStringLiteral("[4]")), -1);
     QCOMPARE(shown, 1);
     QVERIFY2(elapsed.elapsed() < 5000, "a download of a minute was not ended");
+}
+
+void TestWindow::doubleClicksCountOnce()
+{
+    for (const auto &instrument : m_instruments)
+        instrument->setDelay(30);
+    const auto doubleClick = [this](const Matches &matches) {
+        QQuickItem *item = nullptr;
+        QTRY_VERIFY((item = findInWindows(matches)));
+        QTRY_VERIFY(item->isEnabled());
+        const QPoint place = item->mapToScene(QPointF(item->width() / 2, 20)).toPoint();
+        for (const int delay : {0, 60}) { // the second click comes while the first one's work is done
+            QTest::qWait(delay);
+            QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, place);
+        }
+    };
+    doubleClick(has("buttonLabel", QStringLiteral("Find device")));
+    QTRY_COMPARE(m_core->deviceList().value<QList<QObject *>>().size(), 2);
+    m_instruments[0]->clearCommands();
+    doubleClick(has("productName", QStringLiteral("THALVEX 2")));
+    QTRY_COMPARE(state(), QStringLiteral("Thalvex2State"));
+    QTRY_VERIFY(!m_root->property("busy").toBool());
+    QVERIFY(!visibleWidget<QFileDialog>());
+    QCOMPARE(std::count_if(m_instruments[0]->commands().cbegin(), m_instruments[0]->commands().cend(),
+                           [](const QByteArray &command) { return command.startsWith("AT+CCLK="); }),
+             1);
 }
 
 void TestWindow::refusesADamagedFile()

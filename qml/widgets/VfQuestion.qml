@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtQuick.Window 2.15
+import "."
+
+/// A question whose "Yes" loses something: Return, Escape and closing the window answer "No". Its window is made when it
+/// is first asked.
+QtObject {
+    id: question
+
+    property Item owner
+    property string title
+    property string text
+    property VfWindow window: null
+    readonly property bool visible: window !== null && window.visible
+    property Component made: VfWindow {
+        id: box
+
+        title: question.title
+        width: 460
+        height: Math.max(150, words.implicitHeight + answers.height + 3 * Theme.margin)
+        onActiveChanged: if (active) noButton.forceActiveFocus()
+
+        VfText {
+            id: words
+
+            anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.margin }
+            text: question.text
+            textFormat: Text.PlainText
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: text
+        }
+        Row {
+            id: answers
+
+            anchors { right: parent.right; bottom: parent.bottom; margins: Theme.margin }
+            spacing: Theme.gap * 1.5
+
+            MyButton {
+                buttonLabel: qsTr("Yes")
+                onMyButtonclicked: {
+                    box.close()
+                    question.yes()
+                }
+            }
+            MyButton {
+                id: noButton
+
+                buttonLabel: qsTr("No")
+                focus: true
+                onMyButtonclicked: box.close()
+            }
+        }
+    }
+
+    signal yes()
+
+    function open() {
+        if (window === null)
+            window = made.createObject(owner, { transientParent: owner.Window.window })
+        window.present()
+    }
+
+    function close() {
+        if (window !== null)
+            window.close()
+    }
+}
