@@ -70,39 +70,62 @@ QSize VfFullPageTable::cellSize(const QString &text)
     return size;
 }
 
-int VfFullPageTable::draw(int x, int y)
+template <class BeginPage, class PlaceRow>
+bool VfFullPageTable::walk(int y, BeginPage beginPage, PlaceRow placeRow) const
 {
     const QRect window = m_painter->window();
-    if (totalWidth() > window.width())
-        return -1;
-    if (m_rows.isEmpty())
-        return 0;
-    const int left = x + PageCount::blockInset(window.width(), totalWidth());
-    emit newPage();
-    m_newPageDone = false; // the first page is not waited for
+    const int blocks = PageCount::blocks(window.width(), totalWidth());
+    if (blocks == 0)
+        return m_rows.isEmpty();
     QDate day = m_rows.first().date;
-    int cursor = y + drawHeader(left, y);
-    int column = left;
-    for (const VfTableRow &row : qAsConst(m_rows)) {
-        const bool dayChanged = row.date != day;
-        if (!PageCount::rowFits(cursor, m_bottomMargin, m_rowHeight, dayChanged, window.height())) {
-            column += PageCount::blockWidth(window.width(), totalWidth());
-            if (column + totalWidth() <= window.width()) {
-                cursor = y + m_headerHeight;
-            } else {
-                if (!turnPage())
-                    return -1;
-                column = left;
-                cursor = y + drawHeader(left, y);
-            }
+    int block = 0;
+    int cursor = y + m_headerHeight;
+    if (!beginPage(true))
+        return false;
+    for (const VfTableRow &row : m_rows) {
+        const bool newDay = row.date != day;
+        if (!PageCount::rowFits(cursor, m_bottomMargin, m_rowHeight, newDay, window.height())) {
+            block = (block + 1) % blocks;
+            cursor = y + m_headerHeight;
+            if (block == 0 && !beginPage(false))
+                return false;
         }
-        if (dayChanged) {
-            cursor += drawDateRow(QLocale::system().toString(row.date, QLocale::ShortFormat), column, cursor);
-            day = row.date;
-        }
-        cursor += drawRow(row, m_rowHeight, column, cursor);
+        cursor += placeRow(row, block, cursor, newDay);
+        day = row.date;
     }
-    return 0;
+    return true;
+}
+
+int VfFullPageTable::pageCount(int y) const
+{
+    int pages = 0;
+    walk(
+        y, [&pages](bool) { return ++pages > 0; }, [this](const VfTableRow &, int, int, bool) { return m_rowHeight; });
+    return pages;
+}
+
+int VfFullPageTable::draw(int x, int y)
+{
+    const int windowWidth = m_painter->window().width();
+    const int left = x + PageCount::blockInset(windowWidth, totalWidth());
+    const auto beginPage = [&](bool first) {
+        if (first) {
+            emit newPage();
+            m_newPageDone = false; // the first page is not waited for
+        } else if (!turnPage()) {
+            return false;
+        }
+        drawHeader(left, y);
+        return true;
+    };
+    const auto placeRow = [&](const VfTableRow &row, int block, int cursor, bool newDay) {
+        const int column = left + block * PageCount::blockWidth(windowWidth, totalWidth());
+        int height = 0;
+        if (newDay)
+            height = drawDateRow(QLocale::system().toString(row.date, QLocale::ShortFormat), column, cursor);
+        return height + drawRow(row, m_rowHeight, column, cursor + height);
+    };
+    return walk(y, beginPage, placeRow) ? 0 : -1;
 }
 
 bool VfFullPageTable::turnPage()

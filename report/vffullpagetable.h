@@ -25,8 +25,13 @@ public:
     int drawRow(const VfTableRow &row, int rowHeight, int x, int y) override;
     /// A new day takes no room.
     int drawDateRow(const QString &date, int x, int y) override;
+    /// 0 for a table that is wider than the window.
+    int pageCount(int y) const override;
 
 private:
+    /// Goes over all rows as they come to stand, from \a y of each page on. \a beginPage(first) tells whether there is
+    /// a page; \a placeRow(row, block, cursor, newDay) gives the height of what it placed.
+    template <class BeginPage, class PlaceRow> bool walk(int y, BeginPage beginPage, PlaceRow placeRow) const;
     /// Size of \a text in a cell. In a font of fixed pitch texts of the same length are of one size.
     QSize cellSize(const QString &text);
     void drawCell(const QString &text, const QRect &cell);

@@ -5,7 +5,6 @@
 #include "model/experiment.h"
 #include "model/filename.h"
 #include "report/fonts.h"
-#include "report/pagecount.h"
 #include "report/rulepen.h"
 #include "report/vffullpagetable.h"
 #include "report/vfsubsuperscript.h"
@@ -198,18 +197,24 @@ int VfPrinter::drawPageHeader()
 
 int VfPrinter::drawFooter()
 {
-    m_painter->setFont(ReportFont::sans(8));
-    const int height = m_painter->boundingRect(m_painter->window(), noteFlags, m_footerText).height();
+    const int height = footHeight() - m_footerSpacing;
     if (m_footerPage == m_pageNumber) // a second drawing at the same place would only darken it
-        return height + m_footerSpacing;
+        return footHeight();
     m_footerPage = m_pageNumber;
-    drawRule(windowHeight() - height - m_footerSpacing);
+    m_painter->setFont(ReportFont::sans(8));
+    drawRule(windowHeight() - footHeight());
     moveTo(0, windowHeight() - height);
     const QRect line(0, 0, windowWidth(), height);
     m_painter->drawText(line, noteFlags, m_footerText);
     const QString number = QStringLiteral("%1 ").arg(m_pageNumber) + tr("of") + QStringLiteral(" %1").arg(m_totalPages);
     m_painter->drawText(line, Qt::AlignRight, number);
-    return height + m_footerSpacing;
+    return footHeight();
+}
+
+int VfPrinter::footHeight() const
+{
+    const QFontMetrics metrics(ReportFont::sans(8), m_painter->device());
+    return metrics.boundingRect(m_painter->window(), noteFlags, m_footerText).height() + m_footerSpacing;
 }
 
 int VfPrinter::newContentPage()
@@ -395,19 +400,16 @@ void VfPrinter::calculateTotalPages(bool withLogTable)
     for (Experiment *member = m_experiment; member; member = member->next()) {
         ++m_totalPages;
         if (withLogTable)
-            m_totalPages += countTablePages(*std::unique_ptr<VfTable>(createLogTable(member)));
+            m_totalPages += countTablePages(std::unique_ptr<VfTable>(createLogTable(member)));
     }
 }
 
-int VfPrinter::countTablePages(const VfTable &table)
+int VfPrinter::countTablePages(std::unique_ptr<VfTable> table)
 {
-    if (table.totalWidth() > windowWidth()) {
+    if (table->totalWidth() > windowWidth())
         m_tableEnable = false;
-        return 0;
-    }
-    const PageCount::Measures measures{windowWidth(),      windowHeight(),       m_contentTop,     m_footerHeight,
-                                       table.totalWidth(), table.headerHeight(), table.rowHeight()};
-    return PageCount::tablePages(measures, table.rowCount(), table.dayCount());
+    table->setBottomMargin(footHeight()); // as when it is drawn
+    return table->pageCount(m_contentTop);
 }
 
 QList<VfSubSuperScript *> VfPrinter::logTableHeader(Experiment *)

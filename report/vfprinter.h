@@ -134,7 +134,7 @@ protected:
     /// A table of \a rows with \a header in the fonts of logs; the caller owns it.
     VfTable *makeLogTable(const QList<VfTableRow *> &rows, const QList<VfSubSuperScript *> &header);
     /// Pages that \a table needs; a table wider than the page needs none and switches tables off.
-    int countTablePages(const VfTable &table);
+    int countTablePages(std::unique_ptr<VfTable> table);
     void drawLogTable(Experiment *experiment);
     /// Draws \a table over as many pages as it needs.
     void drawLogTable(std::unique_ptr<VfTable> table);
@@ -201,6 +201,8 @@ private:
     QSize drawLogo();
     int drawColumn(const QStringList &texts, int x, int width);
     QString dateText(const QDateTime &dateTime) const;
+    /// Height of the foot with the gap above it.
+    int footHeight() const;
 
     QPixmap m_logo;
     int m_footerPage = 0; ///< page whose foot is drawn

@@ -44,14 +44,14 @@ int VfTable::drawDateRow(const QString &, int, int)
     return 0;
 }
 
+int VfTable::pageCount(int) const
+{
+    return 0;
+}
+
 int VfTable::totalWidth() const
 {
     return std::accumulate(m_columnWidths.cbegin(), m_columnWidths.cend(), 0);
-}
-
-int VfTable::dayCount() const
-{
-    return m_rows.isEmpty() ? 0 : int(m_rows.first().date.daysTo(m_rows.last().date));
 }
 
 void VfTable::takeRows(const QList<VfTableRow *> &rows)

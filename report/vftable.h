@@ -31,6 +31,8 @@ public:
     virtual int drawRow(const VfTableRow &row, int rowHeight, int x, int y);
     /// A new day begins.
     virtual int drawDateRow(const QString &date, int x, int y);
+    /// Pages that draw() begins when the table starts at \a y of each.
+    virtual int pageCount(int y) const;
 
     int headerHeight() const { return m_headerHeight; }
     void setHeaderHeight(int height) { m_headerHeight = height; }
@@ -57,8 +59,6 @@ public:
     QVector<int> columnWidths() const { return m_columnWidths; }
     /// Width of all columns.
     int totalWidth() const;
-    /// Days from the date of the first row to that of the last.
-    int dayCount() const;
 
 signals:
     void newPage();

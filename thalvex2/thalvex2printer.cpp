@@ -49,7 +49,7 @@ void Thalvex2Printer::calculateTotalPages(bool withLogTable)
 {
     m_totalPages = 1;
     if (withLogTable)
-        m_totalPages += countTablePages(*std::unique_ptr<VfTable>(createLogTable(m_experiment)));
+        m_totalPages += countTablePages(std::unique_ptr<VfTable>(createLogTable(m_experiment)));
 }
 
 void Thalvex2Printer::drawEvaluation()

@@ -92,7 +92,7 @@ void Thalvex4Printer::calculateTotalPages(bool withLogTable)
     for (int unit = 0; unit < unitCount(); ++unit) {
         ++m_totalPages;
         if (withLogTable)
-            m_totalPages += countTablePages(*std::unique_ptr<VfTable>(createLogTable(m_experiment, unit)));
+            m_totalPages += countTablePages(std::unique_ptr<VfTable>(createLogTable(m_experiment, unit)));
     }
 }
 

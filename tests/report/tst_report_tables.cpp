@@ -120,8 +120,6 @@ class TestReportTables : public QObject
 private slots:
     void initTestCase() { loadApplicationFonts(); }
 
-    void pageCount_data();
-    void pageCount();
     void rowFits_data();
     void rowFits();
     void blocksFillThePage();
@@ -135,50 +133,6 @@ private slots:
     void piecesOfALine();
     void fontsOfIndexes();
 };
-
-void TestReportTables::pageCount_data()
-{
-    QTest::addColumn<int>("windowWidth");
-    QTest::addColumn<int>("tableWidth");
-    QTest::addColumn<int>("height"); // for lines of 15 pixels
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<int>("midnights");
-    QTest::addColumn<int>("blocks");
-    QTest::addColumn<int>("blockWidth");
-    QTest::addColumn<int>("lines");
-    QTest::addColumn<int>("pages");
-    QTest::newRow("a day of 1000") << 700 << 200 << 900 << 1000 << 0 << 3 << 233 << 180 << 6;
-    QTest::newRow("full pages") << 700 << 200 << 900 << 540 << 0 << 3 << 233 << 180 << 3;
-    QTest::newRow("one line more") << 700 << 200 << 900 << 541 << 0 << 3 << 233 << 180 << 4;
-    QTest::newRow("midnight is a line") << 700 << 200 << 900 << 540 << 1 << 3 << 233 << 180 << 4;
-    QTest::newRow("one block, exactly") << 700 << 700 << 900 << 60 << 0 << 1 << 700 << 60 << 1;
-    QTest::newRow("too wide") << 700 << 701 << 900 << 60 << 0 << 0 << 700 << 1 << 0;
-    QTest::newRow("no samples") << 700 << 0 << 900 << 0 << 0 << 0 << 700 << 1 << 0;
-    QTest::newRow("one sample") << 700 << 200 << 900 << 1 << 0 << 3 << 233 << 180 << 1;
-    QTest::newRow("part lines of blocks add up") << 700 << 200 << 910 << 182 << 0 << 3 << 233 << 182 << 1;
-    QTest::newRow("no room") << 700 << 200 << 5 << 3 << 0 << 3 << 233 << 1 << 3;
-}
-
-void TestReportTables::pageCount()
-{
-    QFETCH(int, windowWidth);
-    QFETCH(int, tableWidth);
-    QFETCH(int, height);
-    QFETCH(int, rows);
-    QFETCH(int, midnights);
-    PageCount::Measures measures;
-    measures.windowWidth = windowWidth;
-    measures.windowHeight = height + 60;
-    measures.contentTop = 20;
-    measures.footerHeight = 15;
-    measures.headerHeight = 25;
-    measures.tableWidth = tableWidth;
-    measures.rowHeight = 15;
-    QTEST(PageCount::blocks(windowWidth, tableWidth), "blocks");
-    QTEST(PageCount::blockWidth(windowWidth, tableWidth), "blockWidth");
-    QTEST(PageCount::linesPerPage(measures), "lines");
-    QTEST(PageCount::tablePages(measures, rows, midnights), "pages");
-}
 
 void TestReportTables::rowFits_data()
 {
@@ -211,6 +165,7 @@ void TestReportTables::blocksFillThePage()
     QVERIFY(blocks > 2);
     table.setBottomMargin(20);
     QCOMPARE(table.draw(0, 30), 0);
+    QCOMPARE(table.pageCount(30), table.page);
     QCOMPARE(table.rows.size(), 500);
 
     // in the middle of its share of the page; block by block, then page by page
@@ -242,10 +197,10 @@ void TestReportTables::newDayNeedsTwoLinesAndTakesOne()
     Paper paper;
     NotingTable table(paper.painter());
     table.setRows(numbered(10, 9, {QString(100, QLatin1Char('x'))}));
-    QCOMPARE(table.dayCount(), 1);
     table.setBottomMargin(934 - 10 * table.rowHeight());
     QCOMPARE(table.draw(0, 0), 0);
     QCOMPARE(table.pages.last(), 2); // there was room for one line
+    QCOMPARE(table.pageCount(0), 2);
     QCOMPARE(table.dateRows, 1);
 
     NotingTable inside(paper.painter());
@@ -267,6 +222,7 @@ void TestReportTables::narrowRows()
     wide.setRows(numbered(1, -1, {QString(130, QLatin1Char('8'))}));
     QVERIFY(wide.totalWidth() > 604);
     QCOMPARE(wide.draw(0, 0), -1);
+    QCOMPARE(wide.pageCount(0), 0);
 
     NotingTable ragged(paper.painter());
     QList<VfTableRow *> rows = numbered(1);
