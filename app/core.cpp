@@ -251,9 +251,10 @@ int Core::generateReport(QString json)
     printer->setCalibration(m_device->calibration());
     printer->setParameters(json);
     printer->setExperiment(m_chain.get());
-    if (printer->printReport() == 0) {
-        printer->endPainting();
-        printer->openResult();
-    }
+    if (printer->printReport() != 0) // no report, and no word of it
+        return DeviceSuccessful;
+    if (printer->endPainting() != 0)
+        return DeviceError;
+    printer->openResult();
     return DeviceSuccessful;
 }

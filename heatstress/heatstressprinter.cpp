@@ -8,7 +8,6 @@
 #include "report/vfsubsuperscript.h"
 #include "report/vftable.h"
 
-#include <QFile>
 #include <QLocale>
 
 #include <algorithm>
@@ -208,26 +207,18 @@ void HeatStressPrinter::drawLogTable(int unit)
 
 // ---------------------------------------------------------------- CSV
 
-void HeatStressPrinter::writeCsvFile(const std::function<void(QFile &)> &lines) const
-{
-    if (!m_ckbCsv)
-        return;
-    QFile file(csvFileName());
-    if (file.open(QIODevice::WriteOnly | QIODevice::Truncate))
-        lines(file);
-}
-
-void HeatStressPrinter::writeCsvSamples(QFile &file, const Experiment *experiment, int unit) const
+QByteArray HeatStressPrinter::csvSamples(const Experiment *experiment, int unit) const
 {
     QStringList heads{tr("Time")};
     for (const Quantity quantity : {Wet, Dry, Globe, Indoors, Outdoors}) // in this order whatever that of the values
         heads.append(name(quantity) + unitSuffix(experiment));
-    file.write(Csv::headLine(heads));
+    QByteArray lines = Csv::headLine(heads);
     const QList<Log *> logs = experiment->logs();
     for (const Log *log : logs) {
         QStringList cells{localTime(log->registerDate())};
         for (const Quantity quantity : m_words.csvValues)
             cells.append(numberText(*log, unit, quantity));
-        file.write(Csv::valueLine(cells));
+        lines += Csv::valueLine(cells);
     }
+    return lines;
 }

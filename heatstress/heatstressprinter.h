@@ -8,8 +8,6 @@
 
 class HeatStressResults;
 class Log;
-class QFile;
-class TimeChart;
 
 /// What the reports of the heat-stress meters share: the data of a measurement, the chart and the log table of a unit's
 /// five values, and the lines of the CSV file. A family says how its values are named and where they are.
@@ -60,11 +58,8 @@ protected:
     VfTable *createLogTable(Experiment *experiment, int unit);
     QList<VfTableRow *> logTableRowsOf(const Experiment *experiment, int unit) const;
 
-    /// Opens the CSV file and has \a lines written to it, when its switch is on. A file that can't be opened is left
-    /// out.
-    void writeCsvFile(const std::function<void(QFile &)> &lines) const;
-    /// The head and a line for each sample of \a unit.
-    void writeCsvSamples(QFile &file, const Experiment *experiment, int unit) const;
+    /// Lines of the CSV file: the head and one for each sample of \a unit.
+    QByteArray csvSamples(const Experiment *experiment, int unit) const;
 
     bool m_ckbWetTempTable = false;
     bool m_ckbDryTempTable = false;

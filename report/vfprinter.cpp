@@ -10,6 +10,7 @@
 #include "report/vfsubsuperscript.h"
 
 #include <QDesktopServices>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -34,6 +35,27 @@ QTextOption wrapped(Qt::Alignment alignment)
     QTextOption option(alignment);
     option.setWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
     return option;
+}
+
+/// Whether the table of contents of the PDF file stands where its last lines say: a write that failed anywhere before
+/// moves or cuts it.
+bool isCompletePdf(const QString &path)
+{
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly) || !file.seek(qMax(file.size() - 64, qint64(0))))
+        return false;
+    const QList<QByteArray> lines = file.readAll().trimmed().split('\n');
+    const int last = lines.size() - 1;
+    return last >= 2 && lines[last] == "%%EOF" && lines[last - 2] == "startxref" &&
+           file.seek(lines[last - 1].toLongLong()) && file.read(4) == "xref";
+}
+
+/// Also where a link points; what is no plain file stays.
+void removeIncomplete(const QString &path)
+{
+    const QFileInfo file(path);
+    if (file.isFile())
+        QFile::remove(file.canonicalFilePath());
 }
 
 QString systemDate(const QDateTime &moment)
@@ -74,8 +96,10 @@ int VfPrinter::beginPainting()
 
 int VfPrinter::endPainting()
 {
-    m_painter->end();
-    return 0;
+    if (m_painter->end() && printerState() != QPrinter::Error && isCompletePdf(m_fileName))
+        return m_filesComplete ? 0 : -1;
+    removeIncomplete(m_fileName);
+    return -1;
 }
 
 void VfPrinter::setOutputFile(const QString &name)
@@ -94,6 +118,19 @@ QString VfPrinter::csvFileName() const
     QString name = m_fileName;
     name.replace(QLatin1String(".pdf"), QLatin1String(".csv"));
     return name.endsWith(QLatin1String(".csv")) ? name : name + QLatin1String(".csv");
+}
+
+void VfPrinter::writeCsvFile(const QByteArray &content)
+{
+    QFile file(csvFileName());
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate))
+        return;
+    const bool complete = file.write(content) == content.size() && file.flush();
+    file.close();
+    if (complete)
+        return;
+    m_filesComplete = false;
+    removeIncomplete(file.fileName());
 }
 
 void VfPrinter::readParameters(const QString &json, const ReportParameters &parameters)

@@ -62,8 +62,9 @@ public:
 
     /// 0, or -1 when the file can't be written.
     [[nodiscard]] int beginPainting();
-    /// Completes the file. 0.
-    int endPainting();
+    /// Completes the file: 0, or -1 when it, or a file beside it, could not be written to its end. What is incomplete
+    /// is removed.
+    [[nodiscard]] int endPainting();
     /// Writes to the path \a name, with ".pdf" behind it if it is not there.
     void setOutputFile(const QString &name);
     /// Path of the report.
@@ -142,6 +143,9 @@ protected:
     // --- files beside the report ---
     /// The report's path with ".csv" in place of ".pdf".
     QString csvFileName() const;
+    /// Writes \a content to csvFileName(). A file that can't be opened is left out; one that does not take it all is
+    /// removed, and endPainting() fails.
+    void writeCsvFile(const QByteArray &content);
 
 protected slots:
     /// The log table begins a page.
@@ -197,13 +201,14 @@ private:
     /// Moves the painter's origin to (\a x, \a y).
     void moveTo(int x, int y);
     void drawRule(int y);
+    /// Height of the foot with the gap above it.
+    int footHeight() const;
     /// Draws the logo at the corner: the place it takes, empty without one.
     QSize drawLogo();
     int drawColumn(const QStringList &texts, int x, int width);
     QString dateText(const QDateTime &dateTime) const;
-    /// Height of the foot with the gap above it.
-    int footHeight() const;
 
     QPixmap m_logo;
     int m_footerPage = 0; ///< page whose foot is drawn
+    bool m_filesComplete = true;
 };

@@ -41,7 +41,8 @@ int Thalvex2Printer::printReport()
     m_footerHeight = drawFooter();
     if (wanted)
         VfPrinter::drawLogTable(m_experiment);
-    writeCsv();
+    if (m_ckbCsv)
+        writeCsvFile(csvSamples(m_experiment, 0));
     return 0;
 }
 
@@ -92,9 +93,4 @@ QString Thalvex2Printer::sample(const Log &log, int, Quantity quantity) const
         &Thalvex2Log::dryTemperature, &Thalvex2Log::wetTemperature, &Thalvex2Log::globeTemperature,
         &Thalvex2Log::IBUTGi, &Thalvex2Log::IBUTGe};
     return (static_cast<const Thalvex2Log &>(log).*values[quantity])();
-}
-
-void Thalvex2Printer::writeCsv()
-{
-    writeCsvFile([this](QFile &file) { writeCsvSamples(file, m_experiment, 0); });
 }

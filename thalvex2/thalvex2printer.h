@@ -24,7 +24,6 @@ private:
     /// Extremes of the temperatures and averages of WBGT, as far as they are switched on.
     void drawEvaluation();
     void drawCalibration();
-    void writeCsv();
 
     bool m_ckbMaxMin = false;
     bool m_ckbAvg = false;

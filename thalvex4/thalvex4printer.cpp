@@ -6,8 +6,6 @@
 #include "thalvex4/thalvex4log.h"
 #include "thalvex4/thalvex4results.h"
 
-#include <QFile>
-
 namespace {
 
 constexpr int csvColumns = 6;
@@ -82,7 +80,8 @@ int Thalvex4Printer::printReport()
         if (wanted)
             drawLogTable(unit);
     }
-    writeCsv();
+    if (m_ckbCsv)
+        writeCsvFile(csvOfChain());
     return 0;
 }
 
@@ -160,18 +159,17 @@ QString Thalvex4Printer::sample(const Log &log, int unit, Quantity quantity) con
     return unit < units.size() ? units[unit].*values[quantity] : QString();
 }
 
-void Thalvex4Printer::writeCsv()
+QByteArray Thalvex4Printer::csvOfChain() const
 {
-    writeCsvFile([this](QFile &file) {
-        for (const Experiment *member = m_experiment; member; member = member->next()) {
-            file.write(csvTitle(tr("Event") + QLatin1Char(' ') + QString::number(member->ordinal())));
-            const int expansions = resultsOf<Thalvex4Results>(member).numberOfExpansions();
-            for (int unit = 0; unit <= expansions; ++unit) {
-                file.write(
-                    csvTitle(unit == 0 ? tr("Main") : tr("Expansion") + QLatin1Char(' ') + QString::number(unit)));
-                writeCsvSamples(file, member, unit);
-                file.write(csvTitle(QString()));
-            }
+    QByteArray lines;
+    for (const Experiment *member = m_experiment; member; member = member->next()) {
+        lines += csvTitle(tr("Event") + QLatin1Char(' ') + QString::number(member->ordinal()));
+        const int expansions = resultsOf<Thalvex4Results>(member).numberOfExpansions();
+        for (int unit = 0; unit <= expansions; ++unit) {
+            lines += csvTitle(unit == 0 ? tr("Main") : tr("Expansion") + QLatin1Char(' ') + QString::number(unit));
+            lines += csvSamples(member, unit);
+            lines += csvTitle(QString());
         }
-    });
+    }
+    return lines;
 }

@@ -30,7 +30,7 @@ private:
     void drawDeviceInfo(int unit);
     /// Extremes and averages of a unit, as far as they are switched on.
     void drawPartialResults(int unit);
-    void writeCsv();
+    QByteArray csvOfChain() const;
 
     bool m_ckbResults = false;
     bool m_ckbWetTempResults = false;

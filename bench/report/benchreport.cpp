@@ -90,7 +90,8 @@ template <class Printer> void print(Experiment *first, QJsonObject choices, cons
     printer.setExperiment(first);
     if (printer.printReport() != 0)
         qFatal("the report can't be written");
-    printer.endPainting();
+    if (printer.endPainting() != 0)
+        qFatal("the report can't be completed");
 }
 
 /// The texts of a log table's rows, and nothing but a glyph run for each of them.

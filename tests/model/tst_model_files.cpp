@@ -9,14 +9,12 @@
 #include "model/log.h"
 #include "model/results.h"
 #include "model/vffile.h"
+#include "tests/model/fulldisk.h"
 
 #include <QCryptographicHash>
 #include <QJsonDocument>
 #include <QTemporaryDir>
 #include <QtTest>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace {
 
@@ -62,19 +60,6 @@ struct Opened {
     std::unique_ptr<VfFile> file;
     std::unique_ptr<Device> device;
     ExperimentChain chain;
-};
-
-/// While it lives no file of this program can grow beyond some bytes.
-struct FullDisk {
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limit{bytes, before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { setrlimit(RLIMIT_FSIZE, &before); }
-    rlimit before{};
 };
 
 } // namespace

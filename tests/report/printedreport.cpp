@@ -40,7 +40,7 @@ PrintedReport::PrintedReport(VfPrinter *printer, Experiment *first, QJsonObject 
     m_path = printer->fileName();
     m_result = printer->printReport();
     if (m_result == 0)
-        printer->endPainting();
+        m_result = printer->endPainting();
 }
 
 int PrintedReport::pages() const

@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
+#include "app/core.h"
 #include "app/fonts.h"
 #include "report/vfprinter.h"
 #include "report/vfsubsuperscript.h"
 #include "report/vftable.h"
+#include "tests/model/fulldisk.h"
 #include "tests/report/measurements.h"
 #include "tests/report/printedreport.h"
 
 #include <QDesktopServices>
 #include <QTest>
 #include <QUrl>
+
+#include <optional>
 
 namespace {
 
@@ -90,7 +94,8 @@ private slots:
     void pageOfAFixedSize();
     void opensTheFileItWrote_data();
     void opensTheFileItWrote();
-    void fileThatCannotBeWritten();
+    void opensOnlyWhatIsComplete_data();
+    void opensOnlyWhatIsComplete();
     void bareFirstPage();
     void logo();
     void logoThatDoesNotLoad();
@@ -201,13 +206,33 @@ void TestReportEngine::opensTheFileItWrote()
     QCOMPARE(desktop.opened.first().toLocalFile(), path);
 }
 
-void TestReportEngine::fileThatCannotBeWritten()
+void TestReportEngine::opensOnlyWhatIsComplete_data()
 {
-    const ExperimentChain experiment = Measurements::thalvex2({});
-    SharedReport report;
-    const PrintedReport printed(&report, experiment.get(),
-                                {{QStringLiteral("fileName"), QStringLiteral("/no/such/folder/r.pdf")}});
-    QCOMPARE(printed.result(), -1);
+    QTest::addColumn<QString>("folder");
+    QTest::addColumn<int>("room");
+    QTest::addColumn<int>("code");
+    QTest::addColumn<int>("opened");
+    QTest::newRow("written") << "" << 1000000 << 0 << 1;
+    QTest::newRow("cannot be begun") << "no/such/folder/" << 1000000 << 0 << 0;
+    QTest::newRow("disk full") << "" << 10000 << -1 << 0;
+    QTest::newRow("disk full from the start") << "" << 0 << -1 << 0;
+}
+
+void TestReportEngine::opensOnlyWhatIsComplete()
+{
+    QFETCH(QString, folder);
+    QFETCH(int, room);
+    QTemporaryDir files;
+    const QString path = files.filePath(folder + "r.pdf");
+    Core core([] { return QStringList(); });
+    core.parseFile(MORVANE_TEST_DATA "/one.tvx");
+    Desktop desktop;
+    std::optional<FullDisk> full(std::in_place, room);
+    const int code = core.generateReport("{\"fileName\": \"" + path + "\"}");
+    full.reset();
+    QTEST(code, "code");
+    QTEST(desktop.opened.size(), "opened");
+    QCOMPARE(QFile::exists(path), desktop.opened.size() == 1);
 }
 
 void TestReportEngine::bareFirstPage()

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/fonts.h"
 #include "report/timechart.h"
+#include "tests/model/fulldisk.h"
 #include "tests/report/measurements.h"
 #include "tests/report/printedreport.h"
 #include "thalvex2/thalvex2experiment.h"
@@ -13,6 +14,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace {
 
@@ -108,6 +110,8 @@ private slots:
     void csv();
     void csvInALocaleOfOtherSigns();
     void csvThatCannotBeOpened();
+    void diskFull_data();
+    void diskFull();
     void csvOfAChain();
     void nothingMeasured_data();
     void nothingMeasured();
@@ -186,6 +190,7 @@ void TestReportHeatStress::pages_data()
     QTest::addColumn<int>("index");
     QTest::addColumn<int>("expansions");
     QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("interval");
     QTest::addColumn<QStringList>("keys");
     QTest::addColumn<int>("total");
     const QStringList none;
@@ -387,6 +392,32 @@ void TestReportHeatStress::csvThatCannotBeOpened()
                           {{QStringLiteral("fileName"), folder.filePath(QStringLiteral("r.pdf"))}});
     QCOMPARE(printed.report.result(), 0);
     QCOMPARE(printed.report.pages(), 1);
+}
+
+void TestReportHeatStress::diskFull_data()
+{
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("room");
+    QTest::addColumn<QStringList>("files");
+    QTest::newRow("no room for the report") << 2 << 10000 << QStringList{"r.csv"};
+    QTest::newRow("nor for the CSV") << 10000 << 10000 << QStringList();
+    QTest::newRow("for the report, not for the CSV") << 10000 << 200000 << QStringList{"r.pdf"};
+}
+
+void TestReportHeatStress::diskFull()
+{
+    QFETCH(int, samples);
+    QFETCH(int, room);
+    QTemporaryDir folder;
+    Course course;
+    course.samples = samples;
+    const ExperimentChain experiment = Measurements::thalvex2(course);
+    std::optional<FullDisk> full(std::in_place, room);
+    const Printed printed(family(0), experiment.get(), {"ckbCsv"},
+                          {{QStringLiteral("fileName"), folder.filePath(QStringLiteral("r.pdf"))}});
+    full.reset();
+    QCOMPARE(printed.report.result(), -1);
+    QTEST(QDir(folder.path()).entryList(QDir::Files), "files");
 }
 
 void TestReportHeatStress::csvOfAChain()
