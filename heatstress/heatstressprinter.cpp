@@ -139,7 +139,8 @@ int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
     TimeChart chart(m_chartFont);
     chart.setTitle(tr("Temperature x Time"));
     chart.setTimeTitle(tr("Time", "X axis label"));
-    chart.setValueTitle(tr("Temperature") + unitSuffix(m_experiment));
+    // Charts take titles for markup, which a unit never is.
+    chart.setValueTitle(tr("Temperature") + unitSuffix(m_experiment).left(40).toHtmlEscaped());
     const QList<Log *> logs = m_experiment->logs();
     const PerQuantity<bool> on = chartSwitches();
     PerQuantity<QVector<QPointF>> points;

@@ -25,7 +25,7 @@ VfFrame {
             Column {
                 visible: item.quantity[modelData.line] !== undefined
                 spacing: 2
-                VfText { text: modelData.label + " [" + item.quantity.figures.unity + "]:"; color: Theme.quietText }
+                VfText { text: modelData.label + " [" + Texts.shown(item.quantity.figures.unity, 12) + "]:"; color: Theme.quietText }
                 VfText {
                     text: item.figure(modelData.line)
                     font { pixelSize: Theme.largeSize; bold: true }

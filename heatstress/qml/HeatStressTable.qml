@@ -13,7 +13,7 @@ VfTable {
     /// The record's part with the values of the unit shown.
     property var reading: function (record) { return record }
 
-    function head(symbol, below) { return symbol + "<sub>" + below + "</sub> [" + unity + "]" }
+    function head(symbol, below) { return Texts.symbol(symbol, below, unity) }
 
     cellText: function (row, role) {
         return role === "date" ? Texts.timeText(root.convertDateTimeATToLocalTimeString(row.date))

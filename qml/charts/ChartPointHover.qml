@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import "../widgets"
+import "../widgets/texts.js" as Texts
 
 /// The note beside a point of a chart. While holdOn is set it stays where it is and says what it said.
 Rectangle {
     id: note
 
-    property string y_text
+    property string y_text          ///< markup
     property bool holdOn: false
     /// What is put back while the note is held.
     property var kept: ({ x: 0, y: 0, y_text: "", visible: false })
@@ -29,7 +30,7 @@ Rectangle {
     onY_textChanged: keep("y_text")
     onVisibleChanged: keep("visible")
     Accessible.role: Accessible.ToolTip
-    Accessible.name: y_text.replace(/<br>/g, ", ").replace(/<[^>]*>/g, "")
+    Accessible.name: Texts.plain(y_text)
 
     VfText {
         id: label

@@ -10,6 +10,7 @@ import "timechart.js" as TimeChart
 FocusScope {
     id: timeChart
 
+    // Title, names and suffix are markup: charts take every text for it.
     property alias title: chart.title
     property alias valueTitle: valueAxis.titleText
     property string valueSuffix
@@ -130,7 +131,7 @@ FocusScope {
     activeFocusOnTab: true
     Accessible.role: Accessible.Chart
     Accessible.name: title
-    Accessible.description: hover.y_text.replace(/<br>/g, ", ").replace(/<[^>]*>/g, "")
+    Accessible.description: Texts.plain(hover.y_text)
     Keys.onLeftPressed: step(-1)
     Keys.onRightPressed: step(1)
     Keys.onUpPressed: changeCurve(-1)

@@ -19,7 +19,6 @@ VfListItem {
         elide: Text.ElideRight
         font { pixelSize: Theme.largeSize - 2; bold: true }
         text: item.productName
-        textFormat: Text.PlainText
     }
     Column {
         anchors.verticalCenter: parent.verticalCenter
@@ -27,7 +26,7 @@ VfListItem {
 
         Repeater {
             model: [qsTr("SN") + ": " + item.serialNumber, qsTr("Fw") + ": " + item.fwVersion]
-            VfText { text: modelData; color: item.textColor; textFormat: Text.PlainText }
+            VfText { text: modelData; color: item.textColor }
         }
     }
 }

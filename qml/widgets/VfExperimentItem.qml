@@ -31,7 +31,6 @@ VfListItem {
         color: item.textColor
         font { pixelSize: Theme.largeSize; bold: true }
         text: item.text
-        textFormat: Text.PlainText
     }
     Repeater {
         model: item.lines
@@ -41,7 +40,6 @@ VfListItem {
             color: item.textColor
             elide: Text.ElideRight
             text: modelData.text
-            textFormat: Text.PlainText
         }
     }
 }

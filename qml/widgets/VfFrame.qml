@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import "."
+import "texts.js" as Texts
 
 /// A framed group: its label on top, its content below. It asks for the implicit size of its content.
 Item {
     id: frame
 
-    property string label
+    property string label           ///< markup
     property int padding: 12
     property alias color: box.color
     default property alias content: inside.data
@@ -23,12 +24,10 @@ Item {
     implicitWidth: Math.max(demand("Width"), caption.implicitWidth) + 2 * padding
     implicitHeight: demand("Height") + labelHeight + 2 * padding
     Accessible.role: Accessible.Grouping
-    Accessible.name: caption.plainText
+    Accessible.name: Texts.plain(label)
 
     VfText {
         id: caption
-
-        readonly property string plainText: frame.label.replace(/<[^>]*>/g, "")
 
         text: frame.label
         color: Theme.quietText

@@ -26,7 +26,6 @@ QtObject {
 
             anchors { left: parent.left; right: parent.right; top: parent.top; margins: Theme.margin }
             text: question.text
-            textFormat: Text.PlainText
             wrapMode: Text.Wrap
             Accessible.role: Accessible.AlertMessage
             Accessible.name: text

@@ -32,7 +32,6 @@ Item {
             elide: Text.ElideMiddle
             font.pixelSize: Theme.smallSize
             text: chooser.fileName
-            textFormat: Text.PlainText
             verticalAlignment: Text.AlignVCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: chooser.fileName

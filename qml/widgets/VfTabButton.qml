@@ -2,13 +2,15 @@
 import QtQuick 2.15
 import QtQuick.Controls 2.15
 import "."
+import "texts.js" as Texts
 
+/// A tab; its text is markup.
 TabButton {
     id: tab
 
     implicitHeight: 34
     Accessible.role: Accessible.PageTab
-    Accessible.name: text.replace(/<[^>]*>/g, "")
+    Accessible.name: Texts.plain(text)
 
     contentItem: VfText {
         color: tab.checked ? Theme.textOnDark : Theme.text

@@ -2,14 +2,15 @@
 import QtQuick 2.15
 import QtQuick.Controls 1.4 as C1
 import "."
+import "texts.js" as Texts
 
 /// A table over a JS array of any length: its model is the number of rows, and only what is on screen is made into text.
 C1.TableView {
     id: table
 
     property var rows: []
-    /// The text of a cell; a page replaces it.
-    property var cellText: function (row, role) { return String(row[role]) }
+    /// The text of a cell; a page replaces it. The titles of the columns are markup.
+    property var cellText: function (row, role) { return Texts.text(row[role]) }
     /// The width of the columns, without the bar beside them.
     readonly property real columnsWidth: {
         var sum = 0

@@ -188,6 +188,30 @@ Item {
             compare(boxes, testWindow.resultTexts)
         }
 
+        /// What a file says is text and of bounded length, wherever it is shown.
+        function test_textsAreNoMarkup_data() {
+            return [{ tag: "picture", text: "<img src=\"http://127.0.0.1:9/x\">" }, { tag: "entity", text: "&lt;b>" },
+                    { tag: "absurdly long", text: new Array(100000).join("<i>") }]
+        }
+        function test_textsAreNoMarkup(row) {
+            show(-3, function (experiment) {
+                experiment.expName = experiment.logList[0].date = row.text
+                experiment.results.unity = experiment.results.duration = experiment.results.sampleTime = row.text
+            })
+            var markup = [], headed = view().table.getColumn(1).title
+            for (var tab = 0; tab < 3; ++tab) {
+                view().setTab(tab)
+                markup = markup.concat(Items.all(made, function (item) {
+                    verify(item.textFormat === undefined || item.text.length < 1000, "cut")
+                    return item.textFormat !== undefined && item.textFormat !== Text.PlainText
+                }).map(function (item) { return item.text }))
+            }
+            var chart = view().temperatureChart
+            markup = markup.concat(chart.valueTitle, chart.drawnSeries(0).name, headed).join()
+            compare(markup.match(/<(?!\/?sub>)|&(?!lt;|gt;|amp;)/g), null)
+            verify(chart.valueTitle.length < 1000)
+        }
+
         function test_tabsByKeyboard() {
             show()
             Items.first(made, "text", "Temperature x Time").forceActiveFocus(Qt.TabFocusReason)
