@@ -1,13 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "simulator/climate.h"
 
-#include <array>
-
 namespace {
-
-struct Knot {
-    double hour, value;
-};
 
 constexpr std::array<Knot, 8> shade = {
     {{0, 21.0}, {5, 19.5}, {8, 23.0}, {12, 29.5}, {15, 34.5}, {18, 30.0}, {22, 24.0}, {24, 21.0}}};
@@ -17,31 +11,11 @@ constexpr std::array<Knot, 6> dryness = {{{0, 2.2}, {6, 1.9}, {12, 6.0}, {15, 8.
 
 constexpr double roomTemperature = 23.0;
 
-double smooth(double part)
-{
-    return part * part * (3 - 2 * part);
-}
-
-template <std::size_t n> double curve(const std::array<Knot, n> &knots, double hour)
-{
-    std::size_t i = 1;
-    while (i + 1 < n && knots[i].hour < hour)
-        ++i;
-    const Knot &from = knots[i - 1];
-    const Knot &to = knots[i];
-    return from.value + (to.value - from.value) * smooth((hour - from.hour) / (to.hour - from.hour));
-}
-
 /// A sensor on its way from the room's temperature; `slowness` in seconds.
 double warmedUp(double target, qint64 measuring, double slowness)
 {
     const double left = 1 / (1 + double(measuring) / slowness);
     return target + (roomTemperature - target) * left * left;
-}
-
-int tenths(double value)
-{
-    return value < 0 ? -int(0.5 - value * 10) : int(value * 10 + 0.5);
 }
 
 /// The nearest tenth of a sum of tenths with weights in tenths.
@@ -52,38 +26,18 @@ int weighted(int sum)
 
 } // namespace
 
-Climate::Climate(quint32 seed, int place) : m_seed(quint64(seed) << 8 | quint64(place)), m_place(place) { }
-
-/// Evenly spread from -1 to 1: splitmix64 of seed, stream and step.
-double Climate::random(quint64 stream, qint64 step) const
-{
-    quint64 z = (m_seed * 0x9E3779B97F4A7C15u) ^ (stream * 0xD1B54A32D192ED03u) ^ quint64(step);
-    z += 0x9E3779B97F4A7C15u;
-    z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
-    z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
-    z ^= z >> 31;
-    return double(z >> 11) / double(1ull << 52) - 1;
-}
-
-/// A slow random swing from -1 to 1, with a new goal every `period` seconds.
-double Climate::drift(quint64 stream, qint64 clock, int period) const
-{
-    const qint64 step = clock / period;
-    const double from = random(stream, step);
-    const double to = random(stream, step + 1);
-    return from + (to - from) * smooth(double(clock % period) / period);
-}
+Climate::Climate(quint32 seed, int place) : m_chance(quint64(seed) << 8 | quint64(place)), m_place(place) { }
 
 HeatSample Climate::at(qint64 clock, qint64 measuring, char unit) const
 {
     const double hour = double(clock % 86400) / 3600;
-    const double clouds = drift(1, clock, 420);
-    double dry = curve(shade, hour) + 0.8 * drift(2, clock, 600) + 0.3 * m_place;
+    const double clouds = m_chance.drift(1, clock, 420);
+    double dry = curve(shade, hour) + 0.8 * m_chance.drift(2, clock, 600) + 0.3 * m_place;
     double globe = dry + curve(radiation, hour) * (0.8 + 0.2 * clouds) - 0.5 * m_place;
-    double wet = dry - curve(dryness, hour) + 0.4 * drift(3, clock, 900);
-    dry = warmedUp(dry, measuring, 120) + 0.1 * random(4, clock);
-    wet = warmedUp(wet, measuring, 240) + 0.1 * random(5, clock);
-    globe = warmedUp(globe, measuring, 360) + 0.1 * random(6, clock);
+    double wet = dry - curve(dryness, hour) + 0.4 * m_chance.drift(3, clock, 900);
+    dry = warmedUp(dry, measuring, 120) + 0.1 * m_chance.random(4, clock);
+    wet = warmedUp(wet, measuring, 240) + 0.1 * m_chance.random(5, clock);
+    globe = warmedUp(globe, measuring, 360) + 0.1 * m_chance.random(6, clock);
 
     const auto shown = [unit](double celsius) { return tenths(unit == 'F' ? celsius * 1.8 + 32 : celsius); };
     HeatSample sample;
@@ -92,7 +46,7 @@ HeatSample Climate::at(qint64 clock, qint64 measuring, char unit) const
     sample.globe = shown(globe);
     sample.indoor = weighted(7 * sample.wet + 3 * sample.globe);
     sample.outdoor = weighted(7 * sample.wet + 2 * sample.globe + sample.dry);
-    sample.air = tenths(0.6 + 0.1 * m_place + 0.4 * drift(7, clock, 180));
-    sample.tilted = random(8, clock) > 0.99;
+    sample.air = tenths(0.6 + 0.1 * m_place + 0.4 * m_chance.drift(7, clock, 180));
+    sample.tilted = m_chance.random(8, clock) > 0.99;
     return sample;
 }

@@ -1,9 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include <QtGlobal>
-
-#include <initializer_list>
+#include "simulator/course.h"
 
 /// What the sensors of one unit show at one moment, in tenths of the unit of measurement (°C or °F, and m/s).
 struct HeatSample {
@@ -18,8 +16,7 @@ struct HeatSample {
 
 /// The heat at a workplace through day and night: a cool morning, a hot afternoon, clouds, and sensors that need
 /// minutes to come from the room's temperature to that of the place. A function of the seed, the unit's place and the
-/// time alone, so that any record can be asked for in any order; additions and products only, so that every
-/// computer gets the same digits.
+/// time alone.
 class Climate
 {
 public:
@@ -29,9 +26,6 @@ public:
     [[nodiscard]] HeatSample at(qint64 clock, qint64 measuring, char unit) const;
 
 private:
-    [[nodiscard]] double random(quint64 stream, qint64 step) const;
-    [[nodiscard]] double drift(quint64 stream, qint64 clock, int period) const;
-
-    quint64 m_seed;
+    Chance m_chance;
     int m_place;
 };

@@ -18,6 +18,12 @@
 [[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedThalvex4(
     quint32 seed = 1, int expansions = 3, const QVector<SimulatedExperiment> &memory = workingDays(), int gap = 0);
 
+/// The sound level meters: of one frequency weighting, and of all three at once.
+[[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedNembra(
+    quint32 seed = 1, const QVector<SimulatedExperiment> &memory = workingDays());
+[[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedNembraPlus(
+    quint32 seed = 1, const QVector<SimulatedExperiment> &memory = workingDays());
+
 struct SimulatedFamily {
     const char *name; ///< for a command line: "thalvex2"
     using Memory = QVector<SimulatedExperiment>;

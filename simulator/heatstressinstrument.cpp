@@ -5,16 +5,6 @@ namespace {
 
 constexpr int longestInterval = 7200; // seconds
 
-bool isUnit(const QByteArray &value)
-{
-    return value == "\"C\"" || value == "\"F\"";
-}
-
-QByteArray twoDecimals(double value)
-{
-    return QByteArray::number(value, 'f', 2);
-}
-
 } // namespace
 
 HeatStressInstrument::HeatStressInstrument(Identity identity, quint32 seed, int units,
@@ -23,7 +13,7 @@ HeatStressInstrument::HeatStressInstrument(Identity identity, quint32 seed, int 
 {
     for (int unit = 0; unit < units; ++unit)
         m_climates.append(Climate(seed, unit));
-    addSetting("VFUNIT", "\"C\"", isUnit);
+    addSetting("VFUNIT", "\"C\"", oneOf({"C", "F"}));
     addSetting("VFINTVL", "60", wholeNumber(1, longestInterval));
 }
 

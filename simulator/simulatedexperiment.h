@@ -20,6 +20,9 @@ struct SimulatedExperiment {
     char unit = 'C';                                  ///< 'C' or 'F', as set on the instrument at that time
     QByteArray type = {};                             ///< of instruments that measure several kinds of things
     int index = 0;                                    ///< number in the memory; 0: one more than the last
+    QByteArray octaves = "1/1";                       ///< of sound level meters: also "1/3"; any other is without bands
+    bool manual = false;                              ///< of a sound level meter that can: each record as long as it is
+    bool overloaded = false;                          ///< of a sound level meter that can tell
 
     /// Seconds from the start to a record (counted from 1), the pause included.
     [[nodiscard]] qint64 elapsed(int record) const;

@@ -111,6 +111,11 @@ VirtualInstrument::Check VirtualInstrument::wholeNumber(int least, int greatest)
     };
 }
 
+VirtualInstrument::Check VirtualInstrument::oneOf(const QByteArrayList &texts)
+{
+    return [=](const QByteArray &value) { return texts.contains(unquoted(value).value_or("-")); };
+}
+
 QByteArray VirtualInstrument::answer(const QByteArray &command)
 {
     const QByteArray text = command.endsWith("\r\n") ? command.left(command.size() - 2) : command;

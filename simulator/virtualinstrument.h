@@ -61,6 +61,8 @@ protected:
     void addSetting(const QByteArray &name, const QByteArray &value, const Check &accepts = {});
 
     [[nodiscard]] static Check wholeNumber(int least, int greatest);
+    /// One of some texts in quotes.
+    [[nodiscard]] static Check oneOf(const QByteArrayList &texts);
 
     /// One line of the list of measurements; the base gives number, size and date.
     [[nodiscard]] virtual QByteArray listLine(const SimulatedExperiment &experiment) const;
@@ -73,6 +75,7 @@ protected:
     [[nodiscard]] static QByteArray recordStart(const SimulatedExperiment &experiment, int number);
     /// 254 as "25.4".
     [[nodiscard]] static QByteArray oneDecimal(int tenths);
+    [[nodiscard]] static QByteArray twoDecimals(double value) { return QByteArray::number(value, 'f', 2); }
 
 private:
     void addSharedCommands();
