@@ -20,34 +20,11 @@
 
 namespace {
 
-template <class Base, class T> Base *make()
-{
-    return new T;
-}
-
-template <class D, class Config, class Exp, class File, class L, class Printer, class R>
-Product product(const char *name, const char *ending, ExposureComponent *(*exposureComponent)() = nullptr)
-{
-    return {
-        name,
-        ending,
-        [](const Device &plain) -> Device * { return new D(plain); },
-        make<Device, D>,
-        make<DeviceConfig, Config>,
-        make<Experiment, Exp>,
-        [](const QString &path) -> VfFile * { return new File(path); },
-        make<Log, L>,
-        make<VfPrinter, Printer>,
-        make<Results, R>,
-        exposureComponent,
-    };
-}
-
 /// All products. A new one is a row here.
 const Product products[] = {
-    product<Thalvex2, Thalvex2Config, Thalvex2Experiment, Thalvex2File, Thalvex2Log, Thalvex2Printer, Thalvex2Results>(
+    productOf<Thalvex2, Thalvex2Config, Thalvex2Experiment, Thalvex2File, Thalvex2Log, Thalvex2Printer, Thalvex2Results>(
         "THALVEX 2", ".tvx"),
-    product<Thalvex4, Thalvex4Config, Thalvex4Experiment, Thalvex4File, Thalvex4Log, Thalvex4Printer, Thalvex4Results>(
+    productOf<Thalvex4, Thalvex4Config, Thalvex4Experiment, Thalvex4File, Thalvex4Log, Thalvex4Printer, Thalvex4Results>(
         "THALVEX 4", ".tv4"),
 };
 

@@ -3,6 +3,8 @@
 
 #include <QString>
 
+#include <type_traits>
+
 class Device;
 class DeviceConfig;
 class Experiment;
@@ -27,6 +29,34 @@ struct Product {
     Results *(*results)();
     ExposureComponent *(*exposureComponent)(); ///< null for products that have none
 };
+
+/// What makes objects of type \a T; null for void.
+template <class Base, class T> constexpr auto makerOf() -> Base *(*)()
+{
+    if constexpr (std::is_void_v<T>)
+        return nullptr;
+    else
+        return []() -> Base * { return new T; };
+}
+
+/// The row of a product that is made of its family's classes; \a Printer and \a Component are void where there is none.
+template <class D, class Config, class Exp, class File, class L, class Printer, class R, class Component = void>
+Product productOf(const char *name, const char *ending)
+{
+    return {
+        name,
+        ending,
+        [](const Device &plain) -> Device * { return new D(plain); },
+        makerOf<Device, D>(),
+        makerOf<DeviceConfig, Config>(),
+        makerOf<Experiment, Exp>(),
+        [](const QString &path) -> VfFile * { return new File(path); },
+        makerOf<Log, L>(),
+        makerOf<VfPrinter, Printer>(),
+        makerOf<Results, R>(),
+        makerOf<ExposureComponent, Component>(),
+    };
+}
 
 // The table of all products stands above the families, in app/.
 

@@ -37,12 +37,12 @@ protected:
 /// The pieces of a "+VFRDXP: " line, up to a NUL.
 Pieces recordPieces(const QByteArray &line);
 
-/// A record that is described by its table: \a T has `static const Fields<T> &fields()` for this base to use, and comes in
-/// one line of at least \a leastPieces pieces.
-template <class T, int leastPieces> class LogOf : public Log
+/// A record over \a Base that is described by its table: \a T has `static const Fields<T> &fields()` for this base to use,
+/// and comes in one line of at least \a leastPieces pieces.
+template <class T, int leastPieces, class Base = Log> class LogOf : public Base
 {
 public:
-    using Log::Log;
+    using Base::Base;
 
     [[nodiscard]] int parse(const QByteArray &line) override
     {

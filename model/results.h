@@ -62,6 +62,10 @@ public:
     QDateTime startTime() const { return m_startTime; }
     QDateTime stopTime() const { return m_stopTime; }
 
+    /// The closing record; families add what their tables have.
+    QJsonObject toJson() const override { return writeJson<Results>(*this, closingFields()); }
+    void fromJson(const QJsonObject &object) override { readJson<Results>(*this, closingFields(), object); }
+
 protected:
     QString m_duration;
     QString m_pauseTime;
@@ -70,16 +74,14 @@ protected:
 };
 
 /// Results over \a Base that are described by their table: \a T has `static const Fields<T> &fields()` for this base to use.
+/// A \a Base with a table of its own is written and read beside it.
 template <class T, class Base = TimedResults> class ResultsOf : public Base
 {
 public:
-    QJsonObject toJson() const override
-    {
-        return computed(writeJson(self(), T::fields(), writeJson<Results>(*this, Base::closingFields())));
-    }
+    QJsonObject toJson() const override { return writeJson(self(), T::fields(), Base::toJson()); }
     void fromJson(const QJsonObject &object) override
     {
-        readJson<Results>(*this, Base::closingFields(), object);
+        Base::fromJson(object);
         readJson(self(), T::fields(), object);
     }
 
@@ -89,8 +91,6 @@ protected:
     {
         return parseHeader(self(), T::fields(), number, pieces(answer, HeaderTag), atLeast);
     }
-    /// \a object with what is computed anew each time and not read back.
-    virtual QJsonObject computed(QJsonObject object) const { return object; }
 
 private:
     T &self() { return static_cast<T &>(*this); }

@@ -28,6 +28,7 @@ using Codes = std::array<int, 8>;
 constexpr Codes byTheEnd =               {-2,  -1,   -3,   -1,    -2,   0,         0,         0};
 constexpr Codes refusalIsWhole =         {-2,  -1,   -3,   -3,    -3,   0,         0,         0};
 constexpr Codes answerIsWhole =          {-2,  -1,   -3,   -3,    -3,   -3,        0,         0};
+constexpr Codes allOrNothing =           {-1,  -1,   -1,   -1,    -1,   -1,        -1,        -1};
 
 /// A command of a family's own, and how it is brought about.
 struct Exchange {
@@ -86,3 +87,4 @@ const QVector<FamilyCase> &familyCases();
 
 FamilyCase thalvex2Case();
 FamilyCase thalvex4Case();
+FamilyCase nembraCase();

@@ -8,6 +8,7 @@ const QVector<FamilyCase> &familyCases()
     static const QVector<FamilyCase> cases = {
         thalvex2Case(),
         thalvex4Case(),
+        nembraCase(),
     };
     return cases;
 }

@@ -17,7 +17,6 @@ namespace {
 constexpr Codes allIsWhole =      {-2,  -1,   -1,   -1,    -1,   -1,        0,         0};
 constexpr Codes calibrationRead = {-2,  -1,   -1,   -1,    -2,   -1,        0,         -1};
 constexpr Codes closingRecord =   {-2,  -1,   -1,   -1,    -2,   -1,        -1,        -1};
-constexpr Codes allOrNothing =    {-1,  -1,   -1,   -1,    -1,   -1,        -1,        -1};
 constexpr Codes twoLines =        {-1,  -1,   -1,   -1,    -1,   0,         -1,        0}; // two lines are two
 constexpr Codes identification =  {1,   1,    1,    1,     1,    0,         0,         0};
 
