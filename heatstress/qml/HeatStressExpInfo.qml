@@ -10,6 +10,8 @@ VfFrame {
     property var experiment: ({})
     /// Lines of the family: [{label, value}].
     property var ownLines: []
+    /// What the page has beside its buttons.
+    property real room: 900
     readonly property var results: experiment.results || {}
 
     function date() {
@@ -18,6 +20,8 @@ VfFrame {
     }
 
     Grid {
+        id: grid
+
         columns: 3
         columnSpacing: 32
         rowSpacing: 6
@@ -30,7 +34,11 @@ VfFrame {
                 { label: qsTr("Pause time") + ":", value: info.results.pauseTime },
                 { label: qsTr("Sample time") + " [s]:", value: info.results.sampleTime }
             ].concat(info.ownLines)
-            VfInfoElement { label: modelData.label; value: Texts.text(modelData.value) }
+            VfInfoElement {
+                label: modelData.label
+                maximumWidth: (info.room - 2 * info.padding) / grid.columns - grid.columnSpacing
+                value: Texts.text(modelData.value)
+            }
         }
     }
 }

@@ -9,7 +9,7 @@ VfPage {
     id: page
 
     property string productName
-    /// The block of experiment data; its item has a property experiment.
+    /// The block of experiment data; its item has a property experiment, and takes no more than the width room.
     property Component info
     /// The heavy inside, made with the first experiment.
     property Component view
@@ -81,7 +81,15 @@ VfPage {
         sourceComponent: page.info
     }
 
+    Binding {
+        target: infoLoader.item
+        property: "room"
+        value: page.width - actions.width - 3 * Theme.margin
+    }
+
     Row {
+        id: actions
+
         anchors { left: infoLoader.right; verticalCenter: infoLoader.verticalCenter; leftMargin: Theme.margin }
         spacing: Theme.spacing
 

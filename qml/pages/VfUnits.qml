@@ -100,18 +100,17 @@ Item {
                     color: ListView.isCurrentItem && list.activeFocus ? Theme.accent : Theme.ground
                 }
                 Accessible.role: Accessible.ListItem
-                Accessible.name: label.text
+                Accessible.name: label.whole
                 Accessible.selectable: true
                 Accessible.selected: ListView.isCurrentItem
                 Accessible.onPressAction: units.setUnit(index)
-                VfText {
+                VfElidedText {
                     id: label
 
                     anchors { fill: parent; leftMargin: Theme.gap; rightMargin: Theme.gap }
-                    elide: Text.ElideRight
                     horizontalAlignment: Text.AlignHCenter
                     verticalAlignment: Text.AlignVCenter
-                    text: units.nameOf(index)
+                    whole: units.nameOf(index)
                 }
                 MouseArea {
                     anchors.fill: parent

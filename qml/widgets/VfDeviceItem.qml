@@ -12,13 +12,14 @@ VfListItem {
 
     description: productName + ", " + qsTr("SN") + ": " + serialNumber + ", " + qsTr("Fw") + ": " + fwVersion
 
-    VfText {
+    VfElidedText {
+        id: product
+
         width: 220
         anchors.verticalCenter: parent.verticalCenter
         color: item.textColor
-        elide: Text.ElideRight
         font { pixelSize: Theme.largeSize - 2; bold: true }
-        text: item.productName
+        whole: item.productName
     }
     Column {
         anchors.verticalCenter: parent.verticalCenter
@@ -26,7 +27,11 @@ VfListItem {
 
         Repeater {
             model: [qsTr("SN") + ": " + item.serialNumber, qsTr("Fw") + ": " + item.fwVersion]
-            VfText { text: modelData; color: item.textColor }
+            VfElidedText {
+                width: item.room - product.width - Theme.spacing
+                color: item.textColor
+                whole: modelData
+            }
         }
     }
 }

@@ -25,21 +25,20 @@ VfListItem {
         visible: item.checkable
         onToggled: item.click()
     }
-    VfText {
+    VfElidedText {
         anchors.verticalCenter: parent.verticalCenter
-        width: Math.max(56, implicitWidth)
+        width: Math.max(56, Math.min(120, implicitWidth))
         color: item.textColor
         font { pixelSize: Theme.largeSize; bold: true }
-        text: item.text
+        whole: item.text
     }
     Repeater {
         model: item.lines
-        VfText {
+        VfElidedText {
             anchors.verticalCenter: parent.verticalCenter
-            width: modelData.width || implicitWidth
+            width: Math.max(0, Math.min(modelData.width || implicitWidth, item.room - x))
             color: item.textColor
-            elide: Text.ElideRight
-            text: modelData.text
+            whole: modelData.text
         }
     }
 }

@@ -4,13 +4,20 @@ import "."
 
 /// A label with its value.
 Row {
+    id: element
+
     property string label
     property string value
+    property real maximumWidth: 400
 
     spacing: 6
     Accessible.role: Accessible.StaticText
     Accessible.name: label + " " + value
 
-    VfText { text: label; color: Theme.quietText }
-    VfText { text: value; font.bold: true }
+    VfText { id: caption; text: element.label; color: Theme.quietText }
+    VfElidedText {
+        width: Math.min(implicitWidth, element.maximumWidth - caption.width - element.spacing)
+        font.bold: true
+        whole: element.value
+    }
 }

@@ -11,6 +11,8 @@ Rectangle {
     readonly property color textColor: selected ? Theme.textOnDark : hovered ? "black" : Theme.text
     /// What the item says to those who cannot see it.
     property string description
+    /// What the content may take.
+    readonly property real room: width - 2 * Theme.spacing
     default property alias content: row.data
 
     signal itemClicked()

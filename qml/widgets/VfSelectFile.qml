@@ -27,11 +27,11 @@ Item {
         border { width: 1; color: Theme.fieldLine }
         color: Theme.quietGround
         radius: Theme.radius
-        VfText {
+        VfElidedText {
             anchors { fill: parent; leftMargin: 6; rightMargin: 6 }
             elide: Text.ElideMiddle
             font.pixelSize: Theme.smallSize
-            text: chooser.fileName
+            whole: chooser.fileName
             verticalAlignment: Text.AlignVCenter
             Accessible.role: Accessible.StaticText
             Accessible.name: chooser.fileName

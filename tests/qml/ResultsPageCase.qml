@@ -198,6 +198,8 @@ Item {
                 experiment.expName = experiment.logList[0].date = row.text
                 experiment.results.unity = experiment.results.duration = experiment.results.sampleTime = row.text
             })
+            var report = Items.first(made, "buttonLabel", "Generate report")
+            verify(report.mapToItem(made, report.width, 0).x < made.width, "the buttons stay in the window")
             var markup = [], headed = view().table.getColumn(1).title
             for (var tab = 0; tab < 3; ++tab) {
                 view().setTab(tab)
