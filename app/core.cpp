@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QQmlEngine>
+#include <QScopedValueRollback>
 
 namespace {
 
@@ -61,7 +62,7 @@ QVariant Core::expCompList() const
 {
     QList<QObject *> components;
     for (Experiment *member = m_chain.get(); member; member = member->next()) {
-        ExposureComponent *component = FactoryExposureComponent::create(devName());
+        ExposureComponent *component = FactoryExposureComponent::create(source()->productName());
         if (!component) {
             qDeleteAll(components);
             return QVariant::fromValue(QList<QObject *>());
@@ -146,11 +147,20 @@ void Core::setChain(ExperimentChain chain)
 {
     setCurrent(chain.get());
     m_chain = std::move(chain);
+    m_chainSource = m_chain ? m_device : nullptr;
+}
+
+// What waits for an instrument ends now: its answer belongs to a session that is over.
+int Core::overtake()
+{
+    if (m_talkingTo)
+        m_talkingTo->interface()->cancel();
+    return ++m_session;
 }
 
 void Core::beginSession(DevicePtr device)
 {
-    ++m_session;
+    overtake();
     if (m_device)
         m_device->disconnect(this);
     m_device = std::move(device);
@@ -168,21 +178,27 @@ void Core::dropSession()
 
 void Core::closePorts()
 {
-    ++m_session;
+    overtake();
     for (const DevicePtr &device : qAsConst(m_deviceList))
         device->interface()->close();
 }
 
 void Core::findDevices()
 {
-    const int session = ++m_session;
+    if (m_scan != 0 && m_scan == m_session)
+        return;
+    const int session = overtake();
+    const QScopedValueRollback scan(m_scan, session);
     clearDeviceList();
     const QStringList names = m_portNames();
     const auto count = static_cast<float>(names.size());
     for (int i = 0; i < names.size(); ++i) {
         emit findingDevices(static_cast<double>(static_cast<float>(i + 1) / count * 100.0f));
         QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
+        if (session != m_session)
+            return;
         const auto device = std::make_shared<Device>();
+        const QScopedValueRollback<const Device *> talking(m_talkingTo, device.get());
         const bool answers = device->openPort(names[i]) == 0 && device->identify() == 0;
         if (session != m_session)
             return; // another session began during the wait
@@ -197,11 +213,12 @@ void Core::findDevices()
 
 int Core::saveExperimentToFile(QString fileName)
 {
-    const QString product = devName();
+    const DevicePtr device = source();
+    const QString product = device ? device->productName() : QString();
     m_file.reset(FactoryFile::createForSave(product, pathFromUrl(fileName)));
     if (!m_file)
         return DeviceError;
-    const QByteArray content = VfFile::contentFor(m_device->toJson(), m_chain.get());
+    const QByteArray content = VfFile::contentFor(device->toJson(), m_chain.get());
     if (m_file->save(content))
         return DeviceSuccessful;
     emit openFileError(product);
@@ -210,7 +227,7 @@ int Core::saveExperimentToFile(QString fileName)
 
 void Core::parseFile(QString fileName)
 {
-    const int session = ++m_session;
+    const int session = overtake();
     setChain(nullptr);
     m_file.reset(FactoryFile::createForOpen(pathFromUrl(fileName)));
     if (!m_file || !m_file->open(QIODevice::ReadOnly)) {
@@ -239,16 +256,17 @@ void Core::parseFile(QString fileName)
 
 int Core::generateReport(QString json)
 {
-    const std::unique_ptr<VfPrinter> printer(FactoryPrinter::create(devName()));
+    const DevicePtr device = source();
+    const std::unique_ptr<VfPrinter> printer(device ? FactoryPrinter::create(device->productName()) : nullptr);
     if (!printer) {
         emit unsupportedDevice();
         return DeviceError;
     }
     if (!m_chain)
         return DeviceError;
-    printer->setProductName(m_device->productName());
-    printer->setSn(m_device->sn());
-    printer->setCalibration(m_device->calibration());
+    printer->setProductName(device->productName());
+    printer->setSn(device->sn());
+    printer->setCalibration(device->calibration());
     printer->setParameters(json);
     printer->setExperiment(m_chain.get());
     if (printer->printReport() != 0) // no report, and no word of it

@@ -16,7 +16,7 @@
 ///
 /// A slot that talks to the instrument blocks its caller and pumps the event loop. Another slot that talks to the same
 /// instrument meanwhile gives DeviceBusy; one that begins a new session (a scan, another instrument, a file) takes
-/// effect at once, and the first one then ends with DeviceError.
+/// effect at once, and the first one then ends with DeviceOvertaken. A scan that is asked for during a scan is the same.
 class Core : public QObject
 {
     Q_OBJECT
@@ -128,7 +128,7 @@ public slots:
     void addSchedule(QString schedule);
     void serialErrorOcurred(QSerialPort::SerialPortError error);
     void deviceIsBusy();
-    /// Scans the ports for instruments of the maker.
+    /// Scans the ports for instruments of the maker; nothing while a scan is running.
     void findDevices();
     void nextExp();
     void prevExp();
@@ -139,11 +139,13 @@ private:
     template <class Operation> int exchange(Operation operation);
     template <class Operation> int talk(Operation operation);
     bool isTalking() const { return m_device && m_talkingTo == m_device.get(); }
+    int overtake();
     void beginSession(DevicePtr device);
     void dropSession();
     void clearDeviceList();
     void clearExperimentList();
     void setChain(ExperimentChain chain);
+    DevicePtr source() const { return m_chain ? m_chainSource : m_device; }
     void setCurrent(Experiment *experiment);
     int download(const Experiment &listed);
 
@@ -152,9 +154,11 @@ private:
     DevicePtr m_device;
     QList<Experiment *> m_experimentList;
     ExperimentChain m_chain;
+    DevicePtr m_chainSource;            ///< the instrument that the chain was measured with
     Experiment *m_experiment = nullptr; ///< current member of the chain
     mutable QString m_experimentText;   ///< experiment as read by the pages; null when it has to be made anew
     std::unique_ptr<VfFile> m_file;
     int m_session = 0;                     ///< counts sessions: tells a slot that has waited whether it is still its own
+    int m_scan = 0;                        ///< the session that a scan is running in
     const Device *m_talkingTo = nullptr;   ///< the instrument that a slot is talking to
 };

@@ -23,7 +23,7 @@ template <class Operation> int Core::exchange(Operation operation)
     const int session = m_session;
     const int code = operation(*device);
     if (session != m_session)
-        return DeviceError;
+        return DeviceOvertaken;
     if (device->portError() != QSerialPort::NoError) {
         dropSession();
         return DeviceDisconnected;
@@ -45,6 +45,8 @@ int Core::createDevice(int idx)
     if (idx < 0 || idx >= m_deviceList.size())
         return DeviceError;
     const DevicePtr plain = m_deviceList[idx];
+    if (m_talkingTo && m_talkingTo->interface() == plain->interface())
+        return DeviceBusy;
     const QSerialPort *port = plain->interface()->serialPort();
     if (!port || port->error() != QSerialPort::NoError) {
         m_deviceList.removeAt(idx);
@@ -60,8 +62,11 @@ int Core::createDevice(int idx)
     connect(m_device.get(), &Device::dataRegisterProgessUpdate, this, &Core::updateProgressBar);
     connect(m_device.get(), &Device::busy, this, &Core::deviceIsBusy);
     const QScopedValueRollback<const Device *> talking(m_talkingTo, m_device.get());
+    plain->interface()->resume();
     const DevicePtr device = m_device;
-    return device->acquireServiceConfig();
+    const int session = m_session;
+    const int code = device->acquireServiceConfig();
+    return session == m_session ? code : DeviceOvertaken;
 }
 
 int Core::setTimeNow()
@@ -166,9 +171,9 @@ void Core::prevExp()
 
 int Core::acquireConfiguration()
 {
-    const int code = talk([](Device &device) {
+    const int code = talk([this, session = m_session](Device &device) {
         const int configuration = device.acquireConfiguration();
-        if (device.portError() == QSerialPort::NoError)
+        if (session == m_session && device.portError() == QSerialPort::NoError)
             device.acquireCalibration(); // the window opens without it too
         return configuration;
     });

@@ -3,6 +3,13 @@
 
 #include <QJsonArray>
 
+namespace {
+
+// A scan asks whatever is plugged in, and a receiver or a modem may never stop talking.
+constexpr int LongestIdentification = 64 * 1024;
+
+} // namespace
+
 Device::Device() : m_iface(std::make_shared<Interface>())
 {
     m_iface->setLinkType(0);
@@ -73,28 +80,28 @@ int Device::sendCommand(const QByteArray &cmd)
 }
 
 // The interface is held for the length of the wait: the device may be let go of in the middle of it.
-QByteArray Device::readResponse()
+QByteArray Device::readResponse(int longest)
 {
     const std::shared_ptr<Interface> iface = m_iface;
-    return iface->read();
+    return iface->read(longest);
 }
 
-Reply Device::query(const QByteArray &cmd, const QByteArray &tag, Match match)
+Reply Device::query(const QByteArray &cmd, const QByteArray &tag, Match match, int longest)
 {
     if (sendCommand(cmd) != 0)
         return {DeviceDisconnected, {}};
-    return sortReply(readResponse(), tag, match);
+    return sortReply(readResponse(longest), tag, match);
 }
 
-void Device::echoOff()
+QByteArray Device::echoOff()
 {
-    if (sendCommand("ATE0\r\n") == 0)
-        readResponse();
+    return sendCommand("ATE0\r\n") == 0 ? readResponse(LongestIdentification) : QByteArray();
 }
 
 std::optional<QString> Device::identification(const char *command)
 {
-    const Reply reply = query("AT+" + QByteArray(command) + "\r\n", "\r\n+" + QByteArray(command) + ": ");
+    const Reply reply = query("AT+" + QByteArray(command) + "\r\n", "\r\n+" + QByteArray(command) + ": ", Match::End,
+                              LongestIdentification);
     if (reply.code != DeviceSuccessful)
         return std::nullopt;
     return QString::fromLatin1(reply.data).remove(QLatin1String("\r\n"));
@@ -102,7 +109,8 @@ std::optional<QString> Device::identification(const char *command)
 
 int Device::identify()
 {
-    echoOff();
+    if (echoOff().size() >= LongestIdentification)
+        return 1; // it talks by itself
     const std::pair<const char *, void (Device::*)(const QString &)> questions[] = {
         {"CGMI", &Device::setManufactoryName},
         {"CGMM", &Device::setProductName},

@@ -59,7 +59,8 @@ public:
     int openPort(const QString &location);
     /// Switches the echo off and asks maker, product, serial number and firmware: 0, or 1 at the first failure.
     int identify();
-    void echoOff();
+    /// Gives the answer, in which nothing is told.
+    QByteArray echoOff();
 
     /// The instrument as files tell of it.
     QJsonObject toJson() const;
@@ -118,10 +119,11 @@ protected:
     Device(const Device &plain, Manners manners);
 
     [[nodiscard]] int sendCommand(const QByteArray &cmd);
-    QByteArray readResponse();
+    QByteArray readResponse(int longest = Interface::LongestAnswer);
 
     /// Sends \a cmd and sorts the answer, whose data begin with \a tag.
-    Reply query(const QByteArray &cmd, const QByteArray &tag, Match match = Match::End);
+    Reply query(const QByteArray &cmd, const QByteArray &tag, Match match = Match::End,
+                int longest = Interface::LongestAnswer);
     /// Asks for the setting of \a command.
     Reply askSetting(const QByteArray &command);
     /// Sends \a cmd, which changes a setting and whose answer's data begin with \a tag.

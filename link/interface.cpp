@@ -4,10 +4,13 @@
 #include "link/reply.h"
 
 #include <QCoreApplication>
+#include <QElapsedTimer>
 
 namespace {
 
-constexpr qint64 SilenceLimit = 500; // milliseconds, restarted by every arrival
+constexpr qint64 Millisecond = 1000 * 1000; // in nanoseconds
+constexpr qint64 SilenceLimit = 500 * Millisecond;
+constexpr qint64 LongestTurn = 20 * Millisecond;
 
 bool endsAnswer(const QByteArray &bytes)
 {
@@ -49,7 +52,7 @@ int Interface::close()
 int Interface::write(const QByteArray &data)
 {
     // Between a command and its answer nothing else may be sent: the answers would be taken for one another.
-    if (!m_port || !m_port->isOpen() || m_waiting)
+    if (!m_port || !m_port->isOpen() || m_waiting || m_cancelled)
         return 1;
     m_port->clear(QSerialPort::AllDirections);
     m_responseComplete = false;
@@ -57,23 +60,34 @@ int Interface::write(const QByteArray &data)
     return m_port->error() != QSerialPort::NoError || accepted < data.size() ? 1 : 0;
 }
 
+void Interface::resume()
+{
+    m_cancelled = false;
+    m_buffer.clear();
+}
+
 void Interface::readData()
 {
-    m_buffer += m_port->readAll();
-    m_lastActivity.start();
+    m_buffer += m_port->readAll().left(LongestAnswer - m_buffer.size());
+    m_silence = 0;
     m_responseComplete = endsAnswer(m_buffer);
 }
 
 // The spin costs a core while it waits, and is the fastest way to the next byte; pumping the event loop is what keeps
-// the window alive during a download.
-QByteArray Interface::read()
+// the window alive during a download. A turn in which the window was busy counts little, for an answer that came
+// meanwhile is only found by the next one.
+QByteArray Interface::read(int longest)
 {
     if (m_waiting)
         return {};
     m_waiting = true;
-    m_lastActivity.start();
-    while (m_port && !m_responseComplete && m_lastActivity.elapsed() < SilenceLimit)
+    m_silence = 0;
+    QElapsedTimer turn;
+    while (m_port && !m_cancelled && !m_responseComplete && m_silence < SilenceLimit && m_buffer.size() < longest) {
+        turn.start();
         QCoreApplication::processEvents();
+        m_silence += qMin(turn.nsecsElapsed(), LongestTurn);
+    }
     m_waiting = false;
     QByteArray result;
     result.swap(m_buffer);

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <QByteArray>
-#include <QElapsedTimer>
 #include <QObject>
 #include <QSerialPort>
 
@@ -18,6 +17,9 @@ class Interface : public QObject
     Q_OBJECT
 
 public:
+    /// More bytes than any answer has. What a device sends beyond them is lost.
+    static constexpr int LongestAnswer = 16 * 1024 * 1024;
+
     Interface() = default;
     ~Interface() override;
 
@@ -33,8 +35,13 @@ public:
     /// Throws away what the driver holds and sends \a data: 0, or 1 when not all of it was taken, when no port is open
     /// and while an answer to an earlier command is being waited for.
     [[nodiscard]] int write(const QByteArray &data);
-    /// Waits for the end of an answer, or for half a second of silence, and gives what has arrived: nothing at worst.
-    QByteArray read();
+    /// Waits for the end of an answer, for half a second of silence or for \a longest bytes, and gives what has arrived:
+    /// nothing at worst.
+    QByteArray read(int longest = LongestAnswer);
+    /// Ends a wait at once; until resume() nothing is sent any more, and no answer is waited for.
+    void cancel() { m_cancelled = true; }
+    /// Forgets what has arrived, and lets commands through again.
+    void resume();
     /// The port, for its error(); null while closed.
     QSerialPort *serialPort() const { return m_port.get(); }
 
@@ -49,10 +56,11 @@ private:
     QByteArray m_buffer;
     bool m_responseComplete = false;
     bool m_waiting = false;
+    bool m_cancelled = false;
     int m_linkType = 0;
     std::unique_ptr<QSerialPort> m_port;
     QString m_portName;
-    QElapsedTimer m_lastActivity;
+    qint64 m_silence = 0; ///< nanoseconds since the last arrival in which the port was looked at
     QMetaObject::Connection m_errorConnection;
     QMetaObject::Connection m_readConnection;
 };

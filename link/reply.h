@@ -9,6 +9,7 @@ enum DeviceCode {
     DeviceError = -1,        ///< the instrument refused, or its answer could not be used
     DeviceBusy = -2,         ///< the instrument is busy
     DeviceDisconnected = -3, ///< the command could not be sent, or nothing recognisable came back
+    DeviceOvertaken = -4,    ///< another session began during the wait, or the window closed: there is nothing to tell
 };
 
 /// The ends of an answer.

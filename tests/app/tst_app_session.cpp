@@ -428,6 +428,23 @@ private slots:
         }
     }
 
+    /// Another instrument is picked while the measurements of the first are shown: they are kept as what they are.
+    void savesAsTheFamilyThatMeasured()
+    {
+        const QTemporaryDir folder;
+        PluggedCore plugged;
+        SimulatedInstrument second(simulatedThalvex4(2));
+        plugged.morePorts = QStringList{second.portName()};
+        Core &core = plugged.core;
+        QCOMPARE(plugged.begin(), 0);
+        QCOMPARE(core.createExperiment("[0]"), 0);
+        QCOMPARE(core.createDevice(1), 0);
+        QCOMPARE(core.saveExperimentToFile(folder.filePath("kept")), 0);
+        core.parseFile(folder.filePath("kept.tvx"));
+        QCOMPARE(core.devName(), QString("THALVEX 2"));
+        QVERIFY(!core.experiment().isEmpty());
+    }
+
     void savingWhereNothingCanBeWritten()
     {
         const QTemporaryDir folder;

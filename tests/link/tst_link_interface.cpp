@@ -93,6 +93,22 @@ private slots:
         QVERIFY2(time.elapsed() >= 499 && time.elapsed() < 900, qPrintable(QString::number(time.elapsed())));
     }
 
+    /// The window was busy for longer than the limit, and the answer arrived meanwhile.
+    void answerThatCameWhileNobodyLooked()
+    {
+        Link link;
+        QCOMPARE(link.iface.open(), 0);
+        QTimer busy;
+        connect(&busy, &QTimer::timeout, this, [&] {
+            if (link.instrument.bytesSent() == 0)
+                return;
+            busy.stop();
+            QThread::msleep(700);
+        });
+        busy.start(0);
+        QCOMPARE(link.ask(), answer);
+    }
+
     /// What comes too late stands at the head of the next answer.
     void lateRestComesWithTheNextAnswer()
     {
