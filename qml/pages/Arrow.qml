@@ -12,4 +12,5 @@ MyImageButton {
     imgbtnpicclicked: picture + "clicked.png"
     label: backward ? qsTr("Previous experiment") : qsTr("Next experiment")
     visible: false
+    enabled: visible // nor has it the keyboard while hidden
 }

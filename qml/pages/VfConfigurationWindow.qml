@@ -55,9 +55,9 @@ VfWindow {
     VfText {
         anchors { left: warning.left; bottom: warning.bottom }
         color: Theme.quietText
-        text: root.busyText
-        visible: text !== ""
-        Accessible.role: Accessible.AlertMessage
+        text: root.busyText || "* " + qsTr("Stored in the instrument by \"Apply\"")
+        visible: !warning.visible
+        Accessible.role: root.busyText ? Accessible.AlertMessage : Accessible.StaticText
         Accessible.name: text
     }
 

@@ -9,7 +9,7 @@ Rectangle {
     property string caller
 
     color: "transparent"
-    enabled: !root.busy
+    enabled: visible && !root.busy // what is hidden has no focus
     Accessible.role: Accessible.Pane
     Accessible.name: pageTitle
 

@@ -129,7 +129,7 @@ Window {
                     Layout.fillWidth: true
                     VfImage {
                         anchors.fill: parent
-                        label: qsTr("Logo")
+                        label: qsTr("Show logo")
                         checked: window.isOn(window.logo.on)
                         onToggled: window.set(window.logo.on, on)
                         onPicked: window.set(window.logo.text, fileName)
@@ -167,7 +167,7 @@ Window {
                     Layout.fillWidth: true
                     VfObservation {
                         anchors.fill: parent
-                        label: qsTr("Notes")
+                        label: qsTr("Show notes")
                         checked: window.isOn(window.notes.on)
                         onToggled: window.set(window.notes.on, on)
                         onEdited: window.set(window.notes.text, text)

@@ -33,7 +33,7 @@ VfPage {
     }
 
     pageTitle: qsTr("HOME")
-    enabled: true // all but the way out is locked while something is waited for
+    enabled: visible // all but the way out is locked while something is waited for
 
     VfDialogs { id: dialogs }
 

@@ -21,19 +21,23 @@ Item {
         picked(fileName)
     }
 
-    implicitHeight: 64
+    implicitHeight: 92
     implicitWidth: 340
 
     VfCheckBox {
         id: box
 
-        anchors.verticalCenter: parent.verticalCenter
-        Accessible.name: chooser.label
+        text: chooser.label
         onToggled: chooser.toggled(checked)
     }
 
     Rectangle {
-        anchors { left: box.right; right: button.left; top: parent.top; bottom: parent.bottom; margins: 4; rightMargin: 8 }
+        id: frame
+
+        anchors {
+            left: parent.left; right: button.left; top: box.bottom; bottom: parent.bottom
+            topMargin: 4; rightMargin: Theme.gap
+        }
         border { width: 1; color: Theme.fieldLine }
         color: box.checked ? Theme.ground : Theme.quietGround
         radius: Theme.radius
@@ -59,7 +63,7 @@ Item {
     MyButton {
         id: button
 
-        anchors { right: parent.right; verticalCenter: parent.verticalCenter }
+        anchors { right: parent.right; verticalCenter: frame.verticalCenter }
         buttonLabel: qsTr("Image")
         enabled: box.checked
         onMyButtonclicked: dialog.open()

@@ -21,7 +21,7 @@ Item {
     VfCheckBox {
         id: box
 
-        Accessible.name: notes.label
+        text: notes.label
         onToggled: notes.toggled(checked)
     }
 

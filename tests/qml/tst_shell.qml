@@ -238,9 +238,17 @@ Item {
             compare(window.root.busyText, "")
         }
 
-        function test_hiddenBackButtonHasNoFocus() {
+        function test_whatIsHiddenHasNoFocus() {
             found("THALVEX 2")
             pick()
+            var page = Items.first(window.root, "productName", "THALVEX 2")
+            core.experimentList = [{ index: 1, dateTime: new Date(2021, 2, 5), size: 1 }]
+            page.list.view.forceActiveFocus()
+            keyClick(Qt.Key_Down)
+            showResults("THALVEX 2")
+            keyClick(Qt.Key_Return)
+            compare([page.list.currentIndex, page.saveDialog], [0, null])
+            back()
             window.root.backButton.forceActiveFocus()
             keyClick(Qt.Key_Return)
             compare(window.root.state, "")
