@@ -230,7 +230,7 @@ void resultsPage(const QTemporaryDir &dir, bool larger)
     const int columns = bench.run(page, script("temperatureChart.drawnColumns").constData()).toInt();
     int most = 0;
     for (int k = 0; k < 5; ++k) {
-        const QByteArray count = script("temperatureChart.drawnSeries(") + QByteArray::number(k) + ").count";
+        const QByteArray count = script("temperatureChart.drawn[") + QByteArray::number(k) + "].x.length";
         most = std::max(most, bench.run(page, count.constData()).toInt());
     }
     row("chart, points of a curve (floor: columns of 2 pixels)", columns, most, "<= 2", "");

@@ -7,6 +7,8 @@ import "timechart.js" as TimeChart
 
 /// Curves over time. The series hold no more than a screen can show; the arrays here hold every record and answer the
 /// pointer and the keys: left and right go by a record, page up and down by a twentieth, up and down change the curve.
+/// The ticks of the time axis are drawn here, for the axis knows them only in equal parts of its range; so is the legend,
+/// for a curve is several series (TimeChart.pieces).
 FocusScope {
     id: timeChart
 
@@ -32,10 +34,16 @@ FocusScope {
     /// One column of the drawing is two pixels wide and holds two points of a curve at most.
     readonly property int columnCount: Math.max(1, Math.floor(plot.width / 2))
     property int drawnColumns: 0
+    /// The points drawn of each curve, {x, y}.
+    property var drawn: []
+    /// Whether the records lie on more than one day: the time axis then says which.
+    property bool severalDays: false
+    /// The moments of the time axis that are marked: {time, text}.
+    readonly property var ticks: timeTicks(from, to, Math.max(2, Math.floor(plot.width / 110)))
+    readonly property var curveColors: ["#1db0da", "#1341a6", "#88d41e", "#ff8e1a", "#398ca3"]
     readonly property font textFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize })
     readonly property font headFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize, bold: true })
     readonly property alias seriesCount: chart.count
-    function drawnSeries(k) { return chart.series(k) }
 
     /// The numbers of an experiment's records for some roles; reading(record) is the part of a record that has them.
     function read(experiment, roles, reading) {
@@ -50,12 +58,12 @@ FocusScope {
         sorted = data.sorted
         values = data.values
         names = data.names
-        var margin = (Number(sampleTime) || 0) * 1000, first = times.length > 0 ? times[0] : 0
-        var last = times.length > 0 ? times[times.length - 1] : 0
+        var margin = (Number(sampleTime) || 0) * 1000, reach = TimeChart.reach(times, sorted)
         var range = isNaN(data.low + data.high) ? TimeChart.extremes(values) : data
         chart.removeAllSeries()     // the axes change while no curve has to follow
-        timeAxis.min = new Date(first - margin)
-        timeAxis.max = new Date(Math.max(last, first) + Math.max(margin, 500))
+        severalDays = reach.first < new Date(reach.last).setHours(0, 0, 0, 0)
+        timeAxis.min = new Date(reach.first - Math.max(margin, 500))
+        timeAxis.max = new Date(reach.last + Math.max(margin, 500))
         valueAxis.min = isNaN(range.low) ? 0 : range.low
         valueAxis.max = isNaN(range.high) ? 1 : range.high
         valueAxis.tickCount = 5     // what the last nice numbers came to would else count
@@ -66,17 +74,37 @@ FocusScope {
     function draw() {
         chart.removeAllSeries()
         drawnColumns = columnCount
-        for (var k = 0; k < values.length; ++k) {
-            var points = TimeChart.columns(times, values[k], drawnColumns, from, to)
-            // A series on a chart redraws with every point: fill it first.
-            var series = timeChart.curve.createObject(workshop, { name: names[k] })
-            for (var i = 0; i < points.x.length; ++i)
-                series.append(points.x[i], points.y[i])
-            chart.data.push(series)
-            chart.setAxisX(timeAxis, series)
-            chart.setAxisY(valueAxis, series)
-        }
+        drawn = values.map(function (curve) { return TimeChart.columns(times, curve, drawnColumns, from, to, sorted) })
+        drawn.forEach(function (points, k) {
+            TimeChart.pieces(points).forEach(function (piece) { drawPiece(points, piece, curveColors[k % curveColors.length]) })
+        })
     }
+
+    function drawPiece(points, piece, color) {
+        // A series on a chart redraws with every point: fill it first.
+        var series = timeChart.curve.createObject(workshop, { color: color })
+        for (var i = piece.begin; i < piece.end; ++i)
+            series.append(points.x[i], points.y[i])
+        if (series.count === 1 && series.capStyle !== undefined) {      // a line of one point would not be seen
+            series.width = 6
+            series.pointsVisible = true
+        }
+        chart.data.push(series)
+        chart.setAxisX(timeAxis, series)
+        chart.setAxisY(valueAxis, series)
+    }
+
+    function timeTicks(begin, end, most) {
+        var day = ""
+        return TimeChart.timeTicks(begin, end, most).map(function (time) {
+            var moment = new Date(time), newDay = moment.toLocaleDateString(Qt.locale(), Locale.ShortFormat)
+            var text = Qt.formatTime(moment, timeAxis.clock) + (severalDays && newDay !== day ? "\n" + newDay : "")
+            day = newDay
+            return { time: time, text: text }
+        })
+    }
+
+    function placeOf(time) { return plot.x + (time - from) / (to - from) * plot.width }
 
     /// Lets go of the records; the curves stay until others are shown.
     function clear() {
@@ -156,22 +184,24 @@ FocusScope {
     ChartView {
         id: chart
 
-        anchors.fill: parent
+        anchors { left: parent.left; right: parent.right; top: parent.top; bottom: legend.top }
         antialiasing: true
         localizeNumbers: true
         theme: ChartView.ChartThemeBlueNcs
         backgroundColor: Theme.ground
         titleColor: Theme.text
-        legend.alignment: Qt.AlignBottom
-        legend.labelColor: Theme.text
-        legend.font: timeChart.textFont
+        legend.visible: false
         titleFont: timeChart.headFont
 
         DateTimeAxis {
             id: timeAxis
 
-            format: "hh:mm:ss"
-            labelsColor: Theme.text
+            readonly property string clock: "hh:mm:ss"
+
+            format: timeChart.severalDays ? clock + "'<br>'" + clock : clock
+            gridVisible: false
+            labelsColor: "transparent"      // they keep the room in which those of the ticks stand
+            lineVisible: false
             labelsFont: timeChart.textFont
             titleFont: timeChart.headFont
             titleText: qsTr("Time")
@@ -183,6 +213,51 @@ FocusScope {
             labelsFont: timeChart.textFont
             minorTickCount: 5
             titleFont: timeChart.headFont
+        }
+    }
+
+    Repeater {
+        model: timeChart.ticks
+        Item {
+            x: Math.round(timeChart.placeOf(modelData.time))
+            y: timeChart.plot.y
+            Rectangle { width: 1; height: timeChart.plot.height + 5; color: Theme.text; opacity: 0.12 }
+            VfText {
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: timeChart.plot.height + 8
+                font: timeChart.textFont
+                horizontalAlignment: Text.AlignHCenter
+                text: modelData.text
+            }
+        }
+    }
+
+    Flow {
+        id: legend
+
+        readonly property real oneRow: {
+            var sum = 0
+            for (var i = 0; i < children.length; ++i)
+                sum += children[i].width + spacing
+            return sum
+        }
+
+        anchors { horizontalCenter: parent.horizontalCenter; bottom: parent.bottom; bottomMargin: Theme.gap }
+        spacing: Theme.spacing
+        width: Math.min(parent.width, oneRow)
+
+        Repeater {
+            model: timeChart.names
+            Row {
+                spacing: 5
+                Rectangle {
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 9
+                    height: 9
+                    color: timeChart.curveColors[index % timeChart.curveColors.length]
+                }
+                VfText { font: timeChart.textFont; text: modelData; textFormat: Text.RichText }
+            }
         }
     }
 
@@ -204,8 +279,7 @@ FocusScope {
     ScatterPointHover {
         id: marker
 
-        readonly property real pointX: timeChart.current < 0 ? 0 : timeChart.plot.x
-            + (timeChart.times[timeChart.record] - timeChart.from) / (timeChart.to - timeChart.from) * timeChart.plot.width
+        readonly property real pointX: timeChart.current < 0 ? 0 : timeChart.placeOf(timeChart.times[timeChart.record])
         readonly property real pointY: timeChart.current < 0 ? 0 : timeChart.plot.y
             + (valueAxis.max - timeChart.values[timeChart.current][timeChart.record]) / (valueAxis.max - valueAxis.min)
             * timeChart.plot.height

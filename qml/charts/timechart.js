@@ -63,7 +63,8 @@ function readings(records, moment, roles, reading) {
 
 // What to draw of a curve when the axis from..to has count columns: the lowest and the highest point of each column, in
 // their order, so at most two; all points when there are no more than that. Gives {x, y}; a NaN is left out.
-function columns(xs, ys, count, from, to) {
+// Where the clock was set back (not sorted), a column is an equal part of the records instead.
+function columns(xs, ys, count, from, to, sorted) {
     var drawn = { x: [], y: [] }
     function draw(i) { drawn.x.push(xs[i]); drawn.y.push(ys[i]) }
 
@@ -82,7 +83,8 @@ function columns(xs, ys, count, from, to) {
         var y = ys[i]
         if (y !== y)
             continue
-        var column = Math.max(0, Math.min(count - 1, Math.floor((xs[i] - from) / perColumn)))
+        var column = sorted ? Math.max(0, Math.min(count - 1, Math.floor((xs[i] - from) / perColumn)))
+                            : Math.floor(i * count / xs.length)
         if (low[column] === undefined) {
             low[column] = high[column] = i
         } else {
@@ -99,6 +101,54 @@ function columns(xs, ys, count, from, to) {
             draw(Math.max(low[column], high[column]))
     }
     return drawn
+}
+
+// The parts in which the points of a curve are drawn, as {begin, end}, each beginning with the last point of the one
+// before. A series is slow to take its points, with the square of their number: a hundred at a time are quick. A curve
+// does not run back in time: where the clock was set back, a part begins of its own.
+function pieces(points) {
+    var most = 100, found = [], begin = 0
+    for (var i = 1; i <= points.x.length; ++i) {
+        var back = i < points.x.length && points.x[i] < points.x[i - 1]
+        if (!back && i < points.x.length && i - begin < most)
+            continue
+        found.push({ begin: begin, end: i })
+        begin = back ? i : i - 1
+    }
+    return found
+}
+
+// The first and the last moment of some records, {first, last}; both 0 without records.
+function reach(times, sorted) {
+    if (times.length === 0)
+        return { first: 0, last: 0 }
+    var ends = sorted ? { low: times[0], high: times[times.length - 1] } : extremes([times])
+    return { first: ends.low, last: ends.high }
+}
+
+var second = 1000, minute = 60 * second, hour = 60 * minute, day = 24 * hour
+var tickSteps = [second, 2 * second, 5 * second, 10 * second, 15 * second, 30 * second,
+                 minute, 2 * minute, 5 * minute, 10 * minute, 15 * minute, 30 * minute,
+                 hour, 2 * hour, 3 * hour, 6 * hour, 12 * hour, day]
+
+// The round moments of the local clock between two moments, at most so many. A day's first moment is among them.
+function timeTicks(from, to, most) {
+    var step = day
+    while ((to - from) / step > most)
+        step *= 2
+    step = tickSteps.find(function (candidate) { return (to - from) / candidate <= most }) || step
+    var ticks = [], date = new Date(from), days = Math.max(1, step / day), perDay = Math.max(1, day / step)
+    for (date.setHours(12, 0, 0, 0); date.getTime() - day / 2 <= to; date.setDate(date.getDate() + days)) {
+        // An hour that the clock skips or repeats moves the moments behind it: the clock counts, not the time gone by.
+        for (var i = Math.max(0, Math.floor((from - date.getTime() + 10 * hour) / step)); i < perDay; ++i) {
+            var tick = new Date(date.getFullYear(), date.getMonth(), date.getDate(), 0, 0, i * step / second)
+            if (tick.getTime() > to)
+                break
+            if (tick.getTime() >= from && tick.getDate() === date.getDate() && !(tick.getTime() <= ticks[ticks.length - 1]))
+                ticks.push(tick.getTime())
+        }
+    }
+    return ticks
 }
 
 // The place of the record that is nearest in time, -1 when there is none.

@@ -174,7 +174,7 @@ ResultsPageCase {
             chart.populateSeries(whole, function (record) { return record.enviromentalFactorsList[0] })
             compare(chart.title, "Air Velocity x Time")
             compare(chart.valueTitle, "Air Velocity [m/s]")
-            compare(chart.drawnSeries(0).count, 2)
+            compare(chart.drawn[0].x.length, 2)
             chart.step(1)
             chart.step(1)
             compare(chart.hoverText(), "Air Velocity: 1.00 m/s<br>14:31:00")

@@ -46,7 +46,7 @@ TestCase {
     }
     function test_columns(row) {
         var all = points(row.count, row.valueOf), to = 1000 * Math.max(1, row.count - 1)
-        var drawn = TimeChart.columns(all.x, all.y, row.columns, 0, to)
+        var drawn = TimeChart.columns(all.x, all.y, row.columns, 0, to, true)
         var there = all.x.filter(function (x, i) { return !isNaN(all.y[i]) })
         if (row.exact)
             return compare(drawn.x, there)
@@ -122,14 +122,13 @@ TestCase {
         var chart = shown(86400, noise)
         tryVerify(function () { return chart.drawnColumns === chart.columnCount })
         verify(chart.columnCount > 100)
-        verify(chart.drawnSeries(0).count > chart.columnCount)
-        verify(chart.drawnSeries(0).count <= 2 * chart.columnCount)
+        verify(chart.drawn[0].x.length > chart.columnCount)
+        verify(chart.drawn[0].x.length <= 2 * chart.columnCount)
         var before = chart.columnCount
         chart.anchors.fill = undefined
         chart.width = 500
         tryVerify(function () { return chart.columnCount < before && chart.drawnColumns === chart.columnCount })
-        verify(chart.drawnSeries(0).count <= 2 * chart.columnCount)
-        compare(chart.seriesCount, 2)
+        verify(chart.drawn[0].x.length <= 2 * chart.columnCount)
     }
 
     function test_keysReachEveryRecord() {
@@ -171,6 +170,60 @@ TestCase {
         compare(chart.record, 7)
         keyClick(Qt.Key_Right)                      // the keys let it go
         compare(chart.record, 8)
+    }
+
+    function at(text) { return new Date("20" + text + "-03:00").getTime() }
+
+    function test_ticks_data() {
+        return [
+            { tag: "one record", from: "21-03-05T07:59:00", to: "21-03-05T08:01:00", most: 4,
+              ticks: ["07:59:00", "07:59:30", "08:00:00", "08:00:30", "08:01:00"] },
+            { tag: "less than a second", from: "21-03-05T07:59:59.500", to: "21-03-05T08:00:00.500", most: 9, ticks: ["08:00:00"] },
+            { tag: "odd ends", from: "21-03-05T08:03:10", to: "21-03-05T11:59:59", most: 5,
+              ticks: ["09:00:00", "10:00:00", "11:00:00"] },
+            { tag: "over midnight", from: "21-03-05T22:30:00", to: "21-03-06T01:10:00", most: 3, days: true,
+              ticks: ["23:00:00 5 Mar 2021", "00:00:00 6 Mar 2021", "01:00:00"] },
+            { tag: "midnight is the end", from: "21-03-05T12:00:00", to: "21-03-06T00:00:00", most: 2, days: true,
+              ticks: ["12:00:00 5 Mar 2021", "18:00:00", "00:00:00 6 Mar 2021"] },
+            { tag: "clock set on at midnight", from: "18-11-03T18:00:00", to: "18-11-04T12:00:00", most: 4, days: true,
+              ticks: ["18:00:00 3 Nov 2018", "06:00:00 4 Nov 2018", "12:00:00"] },
+            { tag: "a week", from: "21-03-05T08:00:00", to: "21-03-12T08:00:00", most: 4, days: true,
+              ticks: ["00:00:00 7 Mar 2021", "00:00:00 9 Mar 2021", "00:00:00 11 Mar 2021"] }
+        ]
+    }
+    function test_ticks(row) {
+        var chart = createTemporaryObject(made, test)
+        chart.severalDays = row.days === true
+        var ticks = chart.timeTicks(at(row.from), at(row.to), row.most)
+        compare(ticks.map(function (tick) { return tick.text.replace("\n", " ") }), row.ticks)
+        verify(TimeChart.timeTicks(0, at(row.to), row.most).length <= row.most + 1)
+    }
+
+    function test_clockSetBack_data() {
+        return [{ tag: "few", count: 40 }, { tag: "a day", count: 86400 }]
+    }
+    function test_clockSetBack(row) {
+        var chart = createTemporaryObject(made, test), xs = [], ys = []
+        for (var i = 0; i < row.count; ++i) {
+            xs.push(1e12 + 1000 * (i < row.count / 2 ? i : i - row.count))     // the later half lies before the first record
+            ys.push(i === row.count - 7 ? 99 : noise(i) / 100)
+        }
+        chart.show({ times: xs, sorted: false, values: [ys], names: ["a"], low: 0, high: 100 }, 1)
+        waitForRendering(chart)
+        compare(chart.from, 1e12 - 500 * row.count - 1000)
+        compare(chart.to, 1e12 + 500 * row.count)
+        var points = chart.drawn[0]
+        verify(points.y.indexOf(99) >= 0)
+        verify(points.x.length <= Math.max(row.count, 2 * chart.columnCount))
+        var parts = TimeChart.pieces(points), reached = 0
+        parts.forEach(function (part) {
+            verify(part.begin <= reached)
+            reached = part.end
+            for (var i = part.begin + 1; i < part.end; ++i)
+                verify(points.x[i] >= points.x[i - 1], "no curve runs back")
+        })
+        compare(reached, points.x.length)
+        compare(chart.seriesCount, parts.length)
     }
 
     Component { id: note; ChartPointHover {} }
