@@ -58,9 +58,10 @@ QStringList textsOf(const QJsonArray &array)
 
 QByteArray keyWithWord(QByteArray key, QByteArray word)
 {
-    if (key.startsWith('%'))
+    const int at = key.lastIndexOf('%');
+    if (at == 0)
         word.replace(0, 1, word.left(1).toLower());
-    return key.replace('%', word);
+    return at < 0 ? key : key.replace(at, 1, word);
 }
 
 QString wireText(const QByteArray &piece, Form form)

@@ -41,12 +41,16 @@ inline QString absentText()
     return QStringLiteral("---");
 }
 
+using Pieces = QVector<QByteArray>;
+
 /// A member that is more than one plain value, or that stands in a part of the record: an object, a list of objects.
 template <class T> struct Nested {
     virtual ~Nested() = default;
     virtual QJsonValue toJson(const T &owner) const = 0;
     virtual void writeText(const T &owner, JsonText &out) const = 0;
     virtual void fromJson(T &owner, const QJsonValue &value) const = 0;
+    /// Reads it from the wire, where it stands in a single place.
+    virtual void readPiece(T &, const Pieces &, int) const {}
 };
 
 template <class T> struct Field {
@@ -88,8 +92,6 @@ private:
     std::vector<const Field<T> *> m_byKey;
 };
 
-using Pieces = QVector<QByteArray>;
-
 /// The pieces of \a answer between its commas, without \a tag, line feeds and double quotes. Empty pieces count. A comma
 /// between double quotes belongs to its text, except in a date, which comes apart from its time.
 Pieces pieces(const QByteArray &answer, const char *tag);
@@ -122,7 +124,7 @@ template <class P> struct PartLines {
 /// The texts in \a array.
 QStringList textsOf(const QJsonArray &array);
 
-/// \a key with \a word in place of its "%"; at the key's beginning the word's first letter is a small one.
+/// \a key with \a word in place of its last "%"; at the key's beginning the word's first letter is a small one.
 QByteArray keyWithWord(QByteArray key, QByteArray word);
 
 template <class... Ts> struct Overloaded : Ts... {
@@ -130,27 +132,32 @@ template <class... Ts> struct Overloaded : Ts... {
 };
 template <class... Ts> Overloaded(Ts...) -> Overloaded<Ts...>;
 
-/// Fills the members of \a record that \a header carries. A place that is not there reads as empty.
+/// Fills the member of \a field from place \a at. A place that is not there reads as empty.
+template <class T> void readPiece(T &record, const Field<T> &field, const Pieces &pieces, int at)
+{
+    if (field.form == Form::IfThere && at >= pieces.size())
+        return;
+    const QByteArray piece = pieces.value(at);
+    if (field.form == Form::ClockIfThere && piece.isEmpty())
+        return;
+    std::visit(Overloaded{
+                   [&](QString T::*text) { record.*text = sharedText(wireText(piece, field.form)); },
+                   [&](int T::*number) { record.*number = piece.toInt(); },
+                   [&](double T::*number) { record.*number = piece.toDouble(); },
+                   [&](bool T::*flag) { record.*flag = piece == "1"; },
+                   [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
+                   [&](QStringList T::*) {},
+                   [&](const std::shared_ptr<const Nested<T>> &part) { part->readPiece(record, pieces, at); },
+               },
+               field.member);
+}
+
+/// Fills the members of \a record that \a header carries.
 template <class T> void readPieces(T &record, const Fields<T> &fields, int header, const Pieces &pieces, int offset = 0)
 {
     for (const Field<T> &field : fields) {
-        if (field.header != header)
-            continue;
-        const int at = field.piece + offset;
-        if (field.form == Form::IfThere && at >= pieces.size())
-            continue;
-        const QByteArray piece = pieces.value(at);
-        if (field.form == Form::ClockIfThere && piece.isEmpty())
-            continue;
-        std::visit(Overloaded{
-                       [&](QString T::*text) { record.*text = sharedText(wireText(piece, field.form)); },
-                       [&](int T::*number) { record.*number = piece.toInt(); },
-                       [&](double T::*number) { record.*number = piece.toDouble(); },
-                       [&](bool T::*flag) { record.*flag = piece == "1"; },
-                       [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
-                       [](const auto &) {},
-                   },
-                   field.member);
+        if (field.header == header)
+            readPiece(record, field, pieces, field.piece + offset);
     }
 }
 
@@ -328,6 +335,7 @@ template <class T, class P> std::shared_ptr<const Nested<T>> within(P T::*part, 
         QJsonValue toJson(const T &owner) const override { return toJsonValue(owner.*part, row); }
         void writeText(const T &owner, JsonText &out) const override { writeValue(out, owner.*part, row); }
         void fromJson(T &owner, const QJsonValue &value) const override { fromJsonValue(owner.*part, row, value); }
+        void readPiece(T &owner, const Pieces &pieces, int at) const override { ::readPiece(owner.*part, row, pieces, at); }
         P T::*part;
         Field<P> row;
     };
@@ -335,11 +343,12 @@ template <class T, class P> std::shared_ptr<const Nested<T>> within(P T::*part, 
 }
 
 /// The rows of a part that stands several times in a record, once for each \a word: the record's keys are those of the
-/// part's table with the word in place of their "%", and with a small first letter where the key begins with it.
-template <class T, class P> FieldRows<T> partRows(P T::*part, const QByteArray &word)
+/// part's table with the word in place of their last "%", and with a small first letter where the key begins with it.
+/// On the wire its places are those of the part's table from piece \a offset on.
+template <class T, class P> FieldRows<T> partRows(P T::*part, const QByteArray &word, int offset = 0)
 {
     FieldRows<T> rows;
     for (const Field<P> &row : P::fields())
-        rows.push_back({keyWithWord(row.key, word), NotOnWire, 0, within(part, row), row.form});
+        rows.push_back({keyWithWord(row.key, word), row.header, row.piece + offset, within(part, row), row.form});
     return rows;
 }

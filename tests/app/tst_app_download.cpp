@@ -2,6 +2,7 @@
 // A whole download of a small experiment with everything that can happen to its bytes on the way.
 
 #include "tests/app/pluggedcore.h"
+#include "tests/families/familycase.h"
 
 #include <QProcess>
 #include <QtTest>
@@ -10,15 +11,18 @@
 
 namespace {
 
-std::unique_ptr<VirtualInstrument> small(bool larger)
+/// The instrument of a family with a single record, and without what else would make it long.
+std::unique_ptr<VirtualInstrument> small(int family)
 {
-    return larger ? simulatedThalvex4(1, 0, {{}}) : simulatedThalvex2(1, {{}});
+    SimulatedExperiment experiment;
+    experiment.octaves = "Off";
+    return familyCases()[family].make({experiment});
 }
 
 /// The bytes that a download takes, counted from the plugging in: the first behind those of the session's beginning.
-std::pair<qint64, qint64> bytesOfDownload(bool larger)
+std::pair<qint64, qint64> bytesOfDownload(int family)
 {
-    PluggedCore plugged(small(larger));
+    PluggedCore plugged(small(family));
     if (plugged.begin() != 0)
         return {0, 0};
     const qint64 first = plugged.instrument.bytesSent();
@@ -28,12 +32,12 @@ std::pair<qint64, qint64> bytesOfDownload(bool larger)
 }
 
 /// What goes wrong when the plug is pulled behind byte `count` of the download's; empty when all is as it should be.
-QByteArray unpluggedBehind(qint64 count, bool larger)
+QByteArray unpluggedBehind(qint64 count, int family)
 {
     // The system gives a name away again while another process has yet to let go of the port that was pulled out.
     std::vector<std::unique_ptr<PluggedCore>> tries;
     do
-        tries.push_back(std::make_unique<PluggedCore>(small(larger)));
+        tries.push_back(std::make_unique<PluggedCore>(small(family)));
     while (tries.back()->begin() != 0 && tries.size() < 100);
     PluggedCore &plugged = *tries.back();
     plugged.instrument.fault(Fault::unplugged().afterBytes(count));
@@ -49,9 +53,9 @@ QByteArray unpluggedBehind(qint64 count, bool larger)
 /// Every `step`-th byte from `first` on, in a process of its own: each costs half a second of silence.
 int slice(const QStringList &arguments)
 {
-    const bool larger = arguments[0].toInt() != 0;
+    const int family = arguments[0].toInt();
     for (qint64 count = arguments[1].toLongLong(); count < arguments[2].toLongLong(); count += arguments[3].toInt()) {
-        const QByteArray fault = unpluggedBehind(count, larger);
+        const QByteArray fault = unpluggedBehind(count, family);
         std::printf("%lld %s\n", static_cast<long long>(count), fault.constData());
     }
     return 0;
@@ -66,30 +70,38 @@ class TestAppDownload : public QObject
 private slots:
     void splitAtEveryPosition_data()
     {
-        QTest::addColumn<bool>("larger");
-        QTest::newRow("smaller meter") << false;
-        QTest::newRow("larger meter") << true;
+        QTest::addColumn<int>("family");
+        for (int family = 0; family < familyCases().size(); ++family)
+            QTest::newRow(familyCases()[family].product) << family;
     }
     void splitAtEveryPosition()
     {
-        QFETCH(bool, larger);
-        PluggedCore plugged(larger ? simulatedThalvex4(1, 1) : simulatedThalvex2());
+        QFETCH(int, family);
+        PluggedCore plugged(familyCases()[family].make(workingDays()));
         QCOMPARE(plugged.begin(), 0);
-        QCOMPARE(plugged.core.createExperiment("[0]"), 0);
+        QCOMPARE(plugged.core.createExperiment("[1]"), 0);
         const QString whole = plugged.core.experiment();
         for (int position = 1; position < 200; ++position) {
             plugged.instrument.clearFaults();
             plugged.instrument.fault(Fault::split(position, 1));
-            QCOMPARE(plugged.core.createExperiment("[0]"), 0);
+            QCOMPARE(plugged.core.createExperiment("[1]"), 0);
             QCOMPARE(plugged.core.experiment(), whole);
         }
     }
 
-    void unpluggedBehindEachByte_data() { splitAtEveryPosition_data(); }
+    /// Each byte costs half a second: of sisters whose answers are alike the one with more of them.
+    void unpluggedBehindEachByte_data()
+    {
+        QTest::addColumn<int>("family");
+        for (int family = 0; family < familyCases().size(); ++family) {
+            if (familyCases()[family].product != QByteArray("NEMBRA"))
+                QTest::newRow(familyCases()[family].product) << family;
+        }
+    }
     void unpluggedBehindEachByte()
     {
-        QFETCH(bool, larger);
-        const auto [first, end] = bytesOfDownload(larger);
+        QFETCH(int, family);
+        const auto [first, end] = bytesOfDownload(family);
         QVERIFY(end - first > 200);
         constexpr int Slices = 24; // most of their time is silence, so that they share the processors well
         std::vector<std::unique_ptr<QProcess>> processes;
@@ -97,7 +109,7 @@ private slots:
             processes.push_back(std::make_unique<QProcess>());
             processes.back()->setProcessChannelMode(QProcess::ForwardedErrorChannel);
             processes.back()->start(QCoreApplication::applicationFilePath(),
-                                    {"slice", QString::number(larger), QString::number(first + i), QString::number(end),
+                                    {"slice", QString::number(family), QString::number(first + i), QString::number(end),
                                      QString::number(Slices)});
         }
         QByteArrayList lines;

@@ -9,6 +9,7 @@ const QVector<FamilyCase> &familyCases()
         thalvex2Case(),
         thalvex4Case(),
         nembraCase(),
+        nembraPlusCase(),
     };
     return cases;
 }

@@ -5,6 +5,8 @@
 #include "link/products.h"
 #include "nembra/nembraexposurecomponent.h"
 #include "nembra/nembrafile.h"
+#include "nembraplus/nembraplusexposurecomponent.h"
+#include "nembraplus/nembraplusfile.h"
 #include "thalvex2/thalvex2file.h"
 #include "thalvex4/thalvex4file.h"
 
@@ -17,6 +19,8 @@ const Product products[] = {
         "THALVEX 4", ".tv4"),
     productOf<Nembra, NembraConfig, NembraExperiment, NembraFile, NembraLog, void, NembraResults, NembraExposureComponent>(
         "NEMBRA", ".nbr"),
+    productOf<NembraPlus, NembraPlusConfig, NembraPlusExperiment, NembraPlusFile, NembraPlusLog, void, NembraPlusResults,
+              NembraPlusExposureComponent>("NEMBRA+", ".nbp"),
 };
 
 } // namespace

@@ -28,6 +28,8 @@ inline FamilyCase soundLevelCase(const char *product, const char *ending)
         {"set time weighting", family.written[1], answerIsWhole, write, true},
     };
 
+    family.missing = "{'SEL':'---','lPeak':'---','preChkDate':''}";
+
     const QByteArray listed = "{'index':'3','size':'25','date':'21/03/05,14:30:00-12','expName':";
     family.listLines = {
         {"with a name", "0,3,25,\"21/03/05\",\"14:30:00-12\",\"Fundi\xE7\xE3o, 2\"", listed + "'Fundição, 2'}"},

@@ -2,13 +2,17 @@
 // What instruments send, taken apart: literal answers in, JSON as pages and files know it out.
 
 #include "link/factories.h"
+#include "model/exposurecomponent.h"
 #include "model/field.h"
+#include "model/octavebands.h"
 #include "model/setting.h"
 #include "tests/families/familycase.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QtTest>
+
+#include <cmath>
 
 namespace {
 
@@ -36,6 +40,7 @@ const QVector<ParsedHeader> closingRecords = {
 
 } // namespace
 
+using Levels = QVector<double>;
 Q_DECLARE_METATYPE(Parsed)
 Q_DECLARE_METATYPE(ParsedHeader)
 Q_DECLARE_METATYPE(SettingForm)
@@ -123,6 +128,93 @@ private slots:
         const std::unique_ptr<Results> again(FactoryResults::create(product));
         again->fromJson(got);
         QCOMPARE(shortText(only(wanted, again->toJson())), shortText(wanted));
+    }
+
+    /// Of files that an older program wrote.
+    void missingKeys()
+    {
+        for (const FamilyCase &family : familyCases()) {
+            const std::unique_ptr<Results> results(FactoryResults::create(family.product));
+            results->fromJson({});
+            const QJsonObject wanted = shortJson(family.missing);
+            QCOMPARE(shortText(only(wanted, results->toJson())), shortText(wanted));
+        }
+    }
+
+    void measuringPoints()
+    {
+        for (const char *product : {"NEMBRA", "NEMBRA+"}) {
+            const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(product));
+            const std::unique_ptr<ExposureComponent> point(FactoryExposureComponent::create(product));
+            point->fromExperiment(experiment.get()); // one without results yet
+            QCOMPARE(point->property("lEq").toString(), QString());
+            experiment->fromJson({{"index", "7"},
+                                  {"results", shortJson("{'label':'P','lEq':'85.3','lFMax':'97',"
+                                                        "'lMaxDateTime':'21/03/05,15:00:00-12'}")}});
+            point->fromExperiment(experiment.get());
+            QCOMPARE(point->property("event").toInt(), 7);
+            QCOMPARE(point->property("label").toString(), QString("P"));
+            QCOMPARE(point->property("lEq").toString(), QString("85.3"));
+            QCOMPARE(point->property("lFMax").toString(), QString("97"));
+            QCOMPARE(AtDateTime::toAtString(point->property("lMaxDateTime").toDateTime()), QString("21/03/05,15:00:00-12"));
+        }
+    }
+
+    void octaves_data()
+    {
+        QTest::addColumn<QStringList>("bands"); // frequency and level
+        QTest::addColumn<QString>("analysis");
+        QTest::addColumn<Levels>("a");
+        QTest::addColumn<Levels>("c");
+        const QStringList three{"31.50", "70.126", "63.00", "80", "125.00", "90"};
+        QTest::newRow("octaves from 31.5") << three << "1/1" << Levels{30.73, 53.8, 73.9} << Levels{67.13, 79.2, 89.8};
+        QTest::newRow("thirds from 50") << QStringList{"50.00", "80", "63.00", "80"} << "1/3" << Levels{49.8, 53.8}
+                                        << Levels{78.7, 79.2};
+        QTest::newRow("octaves from 63, one not measured") << QStringList{"63.00", "80", "125.00", "---"} << "1/1"
+                                                           << Levels{53.8, -16.1} << Levels{79.2, -0.2};
+        QTest::newRow("no analysis") << three << "Off" << Levels() << Levels();
+        QTest::newRow("from elsewhere") << QStringList{"125.00", "80"} << "1/1" << Levels() << Levels();
+        QTest::newRow("no bands") << QStringList() << "1/1" << Levels() << Levels();
+    }
+    void octaves()
+    {
+        QFETCH(QStringList, bands);
+        QFETCH(QString, analysis);
+        QVector<LeqPerOctave> list;
+        for (int i = 0; i < bands.size(); i += 2) {
+            LeqPerOctave band;
+            band.frequency = bands[i];
+            band.value = bands[i + 1];
+            list.append(band);
+        }
+        const auto levels = [&](OctaveBands::Weighting weighting) {
+            Levels rounded = OctaveBands::levels(list, OctaveBands::analysisOf(analysis), weighting);
+            for (double &level : rounded)
+                level = std::round(level * 100) / 100;
+            return rounded;
+        };
+        QTEST(levels(OctaveBands::Weighting::A), "a");
+        QTEST(levels(OctaveBands::Weighting::C), "c");
+        QCOMPARE(levels(OctaveBands::Weighting::Z).size(), list.size());
+    }
+
+    /// A flat spectrum of 80 dB in the octaves from 125 to 8000 Hz comes to 86.99 dB(A).
+    void weightedSum()
+    {
+        double energy = 0;
+        for (int third = 11; third <= 29; third += 3)
+            energy += std::pow(10, (80 + OctaveBands::correction(OctaveBands::Weighting::A, third)) / 10);
+        QCOMPARE(std::round(1000 * std::log10(energy)) / 100, 86.99);
+    }
+
+    void bandLabels()
+    {
+        const QLocale plain = QLocale::c();
+        for (const auto &[frequency, label] :
+             {std::pair{"1250.00", "1.25 k"}, std::pair{"1600.00", "1.6 k"}, std::pair{"2000.00", "2 k"},
+              std::pair{"63.00", "63 "}, std::pair{"31.50", "31.5 "}, std::pair{"999.96", "1 k"}})
+            QCOMPARE(OctaveBands::label(frequency, plain), QString(label));
+        QCOMPARE(OctaveBands::label("31.50", QLocale(QLocale::German)), QString("31,5 "));
     }
 
     void settings_data()

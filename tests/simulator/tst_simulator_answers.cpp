@@ -4,6 +4,7 @@
 #include <QDateTime>
 #include <QtTest>
 
+#include <algorithm>
 #include <cmath>
 
 namespace {
@@ -162,6 +163,54 @@ private slots:
         }
         for (int unit = 0; unit < units; ++unit)
             checkUnit(all, 5 + 8 * unit, averages.mid(2 + 2 * unit, 2), extremes.mid(2 + 6 * unit, 6), plan.unit);
+    }
+
+    void soundIsConsistent_data()
+    {
+        QTest::addColumn<bool>("plus");
+        QTest::addColumn<QByteArray>("octaves");
+        QTest::addColumn<int>("bands");
+        QTest::newRow("octaves") << false << QByteArray("1/1") << 10;
+        QTest::newRow("thirds, all weightings") << true << QByteArray("1/3") << 24;
+        QTest::newRow("no analysis") << false << QByteArray("Off") << 0;
+    }
+
+    /// What the headers say can be found in the levels of the records again.
+    void soundIsConsistent()
+    {
+        QFETCH(bool, plus);
+        QFETCH(QByteArray, octaves);
+        QFETCH(int, bands);
+        SimulatedExperiment plan{480, 60, "26/03/10,07:30:00-12", 240, 3600};
+        plan.index = 4;
+        plan.octaves = octaves;
+        const auto instrument = plus ? simulatedNembraPlus(7, {plan}) : simulatedNembra(7, {plan});
+        QVector<double> levels;
+        double energy = 0;
+        for (const QByteArrayList &record : records(*instrument, plan)) {
+            QCOMPARE(record.size(), plus ? 7 : 6);
+            levels.append(record.at(5).toDouble());
+            energy += std::pow(10, levels.last() / 10);
+        }
+        QCOMPARE(levels.size(), plan.size);
+        std::sort(levels.begin(), levels.end(), std::greater<>());
+        QVERIFY(levels.first() < 130 && levels.last() > 40 && levels.first() > levels.last() + 20);
+
+        const double leq = 10 * std::log10(energy / plan.size);
+        const auto all = lines(*instrument, "AT+VFXPHDR=2,4");
+        QCOMPARE(all.size(), plus ? 3 : 1);
+        const QByteArrayList a = all.last();
+        QVERIFY(std::abs(a.at(plus ? 5 : 2).toDouble() - leq) < 0.00501);
+        QVERIFY(std::abs(a.at(plus ? 6 : 8).toDouble() - leq - 10 * std::log10(480 * 60)) < 0.00501);
+        QCOMPARE(a.at(plus ? 17 : 3).toDouble(), levels.first());
+        QCOMPARE(a.at(plus ? 16 : 4).toDouble(), levels.last());
+        const QByteArrayList statistics = header(*instrument, 5, 4);
+        QCOMPARE(statistics.at(4).toDouble(), levels[240]); // exceeded for half of the time
+        QCOMPARE(statistics.at(2).toDouble(), levels[24]);
+
+        const auto spectrum = lines(*instrument, "AT+VFXPHDR=3,4");
+        QCOMPARE(spectrum.first().at(2).toInt(), bands);
+        QCOMPARE(spectrum.size(), qMax(1, bands));
     }
 
     void sameSeedSameValues()
