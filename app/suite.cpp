@@ -3,6 +3,7 @@
 
 #include "app/core.h"
 #include "app/fonts.h"
+#include "app/outputs.h"
 #include "model/buildinfo.h"
 
 #include <QApplication>
@@ -19,6 +20,7 @@
 void loadMainWindow(QQmlApplicationEngine &engine, Core &core)
 {
     engine.rootContext()->setContextProperty(QStringLiteral("core"), &core);
+    engine.setInitialProperties({{QStringLiteral("outputs"), QVariant::fromValue<QObject *>(new Outputs(&core))}});
     engine.load(QUrl(QStringLiteral("qrc:/qml/main.qml")));
     // Not the application's lastWindowClosed: that also tells of every message and file dialog that closes.
     QObject::connect(&engine, &QQmlEngine::quit, &core, &Core::closePorts);

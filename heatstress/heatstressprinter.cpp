@@ -73,6 +73,14 @@ void HeatStressPrinter::setParameters(const QString &json)
     readParameters(json, parameters);
 }
 
+QStringList HeatStressPrinter::outputFiles() const
+{
+    QStringList files = VfPrinter::outputFiles();
+    if (m_ckbCsv)
+        files += csvFileName();
+    return files;
+}
+
 HeatStressPrinter::PerQuantity<bool> HeatStressPrinter::tableSwitches() const
 {
     return {m_ckbDryTempTable, m_ckbWetTempTable, m_ckbGlobeTempTable, m_ckbIBUTGiTable, m_ckbIBUTGeTable};

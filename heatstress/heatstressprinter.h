@@ -17,6 +17,7 @@ class HeatStressPrinter : public VfPrinter
 
 public:
     void setParameters(const QString &json) override;
+    QStringList outputFiles() const override;
     QList<VfSubSuperScript *> logTableHeader(Experiment *experiment) override;
 
 protected:

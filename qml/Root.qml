@@ -22,6 +22,11 @@ Rectangle {
 
     property string lastState: "base state"
 
+    /// What the program knows of files before they are written; null where nobody knows.
+    property QtObject outputs: null
+    /// The file that could not be written although the experiment on screen should stand in it.
+    property string unsaved
+
     property alias pageHome: pageHome
     property alias backButton: backButton
     readonly property alias dialogs: dialogs
@@ -142,6 +147,7 @@ Rectangle {
     Connections {
         target: core
         function onDeviceDisconnected() { root.state = "base state" }
+        function onExperimentUpdated() { root.unsaved = "" }
         function onUnsupportedDevice() { dialogs.unsupportedDeviceDialog.open() }
     }
 }

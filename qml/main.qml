@@ -3,6 +3,11 @@ import QtQuick 2.15
 import QtQuick.Window 2.15
 
 Window {
+    id: window
+
+    /// What the program knows of files before they are written.
+    property QtObject outputs: null
+
     visible: true
     width: 1300
     height: 670
@@ -17,5 +22,5 @@ Window {
     FontLoader { id: fontMono; source: "qrc:/../FreeMono, Regular.ttf" }
     FontLoader { id: fontSerif; source: "qrc:/../FreeSerif, Regular.ttf" }
 
-    Root { id: root }
+    Root { id: root; outputs: window.outputs }
 }

@@ -69,6 +69,8 @@ public:
     void setOutputFile(const QString &name);
     /// Path of the report.
     QString fileName() const { return m_fileName; }
+    /// Paths of all that is written: the report and, where the parameters ask for them, files beside it.
+    virtual QStringList outputFiles() const { return {m_fileName}; }
     /// Hands the file to the desktop's viewer.
     void openResult();
 

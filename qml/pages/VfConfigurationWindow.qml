@@ -71,7 +71,7 @@ VfWindow {
         MyButton {
             buttonLabel: qsTr("Erase memory")
             dangerous: true
-            onMyButtonclicked: window.dialogs.eraseDialog.open()
+            onMyButtonclicked: window.dialogs.eraseDialog.open(window)
         }
         Row {
             anchors.right: parent.right

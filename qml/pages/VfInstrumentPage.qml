@@ -3,6 +3,7 @@ import QtQuick 2.15
 import QtQuick.Controls 2.15
 import QtQuick.Dialogs 1.3
 import "../widgets"
+import "experiments.js" as Experiments
 
 /// The base of the pages of a connected instrument: its configuration, the experiments in its memory, their download.
 /// Every download is saved to a file before it is shown.
@@ -12,6 +13,7 @@ VfPage {
     property string productName
     /// The file form of the family, as "(*.tvx)".
     property string fileFilter
+    readonly property string ending: fileFilter.replace(/[()*]/g, "")
     property Component experimentDelegate
     /// A VfConfigurationWindow, made when it is first asked for.
     property Component configurationWindow
@@ -19,6 +21,7 @@ VfPage {
     /// Positions in the list of what is to be downloaded.
     property var selectedIdx: []
     readonly property alias dialogs: dialogs
+    readonly property alias replaceQuestion: replaceQuestion
     readonly property alias list: list
     readonly property alias progress: progress.value
     readonly property alias configuration: configurationLoader.item
@@ -45,16 +48,37 @@ VfPage {
 
     function pick(index) {
         selectedIdx = [index]
-        saveFile.open()
+        chooseFile(proposedName())
     }
 
-    /// Downloads what is picked and saves it. A file that cannot be written is not told of: the results still show.
+    function chooseFile(name) {
+        saveFile.open()
+        if (root.outputs)
+            root.outputs.propose(name)
+    }
+
+    function proposedName() {
+        var picked = selectedIdx.map(function (position) { return core.experimentList[position] })
+        return Experiments.proposedName(productName, core.device.SN, picked) + ending
+    }
+
+    /// Begins the download, unless a file would be lost that the user wants to keep.
+    function save(fileUrls) {
+        var file = fileOf(fileUrls)
+        replaceQuestion.ask([file], fileUrls, function () { download(fileUrls) }, function () { chooseFile(file) })
+    }
+
+    function fileOf(fileUrls) {
+        return root.outputs ? root.outputs.ofExperiment(productName, fileUrls) : String(fileUrls)
+    }
+
+    /// Downloads what is picked and saves it. The results show also when the file cannot be written; they tell of it.
     function download(fileUrls) {
         var positions = selectedIdx.slice().sort(function (a, b) { return a - b })
         root.wait(qsTr("Downloading") + "...", function () {
             var code = core.createExperiment(JSON.stringify(positions))
             if (code === root.deviceSuccessful)
-                core.saveExperimentToFile(fileUrls)
+                root.unsaved = core.saveExperimentToFile(fileUrls) === root.deviceSuccessful ? "" : fileOf(fileUrls)
             return code
         }, function (code) {
             progress.value = 0
@@ -63,6 +87,7 @@ VfPage {
     }
 
     VfDialogs { id: dialogs }
+    VfReplaceQuestion { id: replaceQuestion; owner: page }
 
     PageBody {
         anchors.fill: parent
@@ -103,10 +128,8 @@ VfPage {
 
             title: qsTr("Save file as")
             selectExisting: false
-            // The ending is known to the dialog, so that it asks before a file of that name is lost.
-            defaultSuffix: page.fileFilter.replace(/[^a-z0-9]/g, "")
             nameFilters: [qsTr("Suite Morvane Files ") + page.fileFilter, qsTr("All files ") + "(*)"]
-            onAccepted: page.download(saveDialog.fileUrls)
+            onAccepted: page.save(saveDialog.fileUrls)
         }
     }
 

@@ -35,6 +35,8 @@ Window {
                 ReportKeys.text("fileName"))
     /// What is on and what was typed, by key.
     property var values: ({})
+    /// The file of which its dialog has asked whether it may be replaced; what is there after a report was not meant.
+    property string asked
 
     signal confirmedOK(string cfg)
 
@@ -180,7 +182,10 @@ Window {
             spacing: 14
             VfSelectFile {
                 Layout.fillWidth: true
-                onPicked: window.set("fileName", fileName)
+                onPicked: {
+                    window.asked = fileName
+                    window.set("fileName", fileName)
+                }
             }
             MyButton {
                 buttonLabel: qsTr("Generate PDF")

@@ -20,6 +20,7 @@ VfPage {
     readonly property alias infoItem: infoLoader.item
     readonly property alias reportItem: reportLoader.item
     readonly property alias dialogs: dialogs
+    readonly property alias replaceQuestion: replaceQuestion
     property alias previousVisible: previous.visible
     property alias nextVisible: next.visible
 
@@ -71,7 +72,18 @@ VfPage {
         reportLoader.item.requestActivate()
     }
 
+    /// Makes the report, unless a file would be lost that the user wants to keep.
+    function report(cfg) {
+        var files = root.outputs ? root.outputs.ofReport(productName, cfg) : []
+        replaceQuestion.ask(files, reportItem.asked, function () {
+            reportItem.asked = ""
+            if (core.generateReport(cfg) === -1)
+                dialogs.printerErrorDialog.open()
+        }, null, reportItem)
+    }
+
     VfDialogs { id: dialogs }
+    VfReplaceQuestion { id: replaceQuestion; owner: page }
 
     Loader {
         id: infoLoader
@@ -113,12 +125,28 @@ VfPage {
         }
     }
 
+    VfText {
+        id: unsaved
+
+        anchors { left: parent.left; right: parent.right; top: infoLoader.bottom; margins: Theme.margin }
+        anchors.topMargin: text ? Theme.gap : 0
+        height: text ? implicitHeight : 0
+        color: Theme.warning
+        elide: Text.ElideRight
+        maximumLineCount: 2
+        text: root.unsaved && qsTr("This measurement is not saved. The file could not be written") + ": " + root.unsaved
+        textFormat: Text.PlainText
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+
     Loader {
         id: viewLoader
 
         active: false
         anchors {
-            left: parent.left; right: parent.right; top: infoLoader.bottom; bottom: parent.bottom
+            left: parent.left; right: parent.right; top: unsaved.bottom; bottom: parent.bottom
             leftMargin: Theme.margin; rightMargin: Theme.margin; topMargin: Theme.spacing; bottomMargin: Theme.spacing
         }
         sourceComponent: page.view
@@ -133,10 +161,7 @@ VfPage {
 
     Connections {
         target: reportLoader.item
-        function onConfirmedOK(cfg) {
-            if (core.generateReport(cfg) === -1)
-                dialogs.printerErrorDialog.open()
-        }
+        function onConfirmedOK(cfg) { page.report(cfg) }
     }
 
     Connections {

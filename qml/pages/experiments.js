@@ -27,3 +27,13 @@ function parsed(text) {
         return null
     }
 }
+
+// A name, without ending, for the file of the picked entries {index, dateTime} of an instrument's list. The system with the
+// narrowest rules for names takes it too.
+function proposedName(product, serialNumber, picked) {
+    var numbers = picked.map(function (experiment) { return experiment.index }).join("+")
+    var date = picked[0].dateTime
+    var day = isNaN(date) ? "" : Qt.formatDate(date, "yyyy-MM-dd")
+    return [product, serialNumber, numbers, day].filter(Boolean).join(" ")
+        .replace(/[\x00-\x1f\\/:*?"<>|]/g, "_").substring(0, 120)
+}

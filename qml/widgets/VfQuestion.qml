@@ -20,6 +20,7 @@ QtObject {
         width: 460
         height: Math.max(150, words.implicitHeight + answers.height + 3 * Theme.margin)
         onActiveChanged: if (active) noButton.forceActiveFocus()
+        onClosing: question.no()
 
         VfText {
             id: words
@@ -39,7 +40,7 @@ QtObject {
             MyButton {
                 buttonLabel: qsTr("Yes")
                 onMyButtonclicked: {
-                    box.close()
+                    box.hide()
                     question.yes()
                 }
             }
@@ -54,10 +55,13 @@ QtObject {
     }
 
     signal yes()
+    signal no()
 
-    function open() {
+    /// Comes up in front of the window that asks; without one, of the owner's.
+    function open(asking) {
         if (window === null)
-            window = made.createObject(owner, { transientParent: owner.Window.window })
+            window = made.createObject(owner)
+        window.transientParent = asking || owner.Window.window
         window.present()
     }
 

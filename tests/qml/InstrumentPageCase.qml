@@ -33,6 +33,8 @@ Item {
 
         function init() {
             core.reset()
+            root.outputs.present = []
+            root.unsaved = ""
             core.devName = testWindow.product
             core.experimentList = testWindow.experiments
             made = createTemporaryObject(testWindow.page, testCase, { width: width, height: height })
@@ -204,6 +206,7 @@ Item {
             compare(made.selectedIdx, [1])
             verify(made.saveDialog.visible)
             compare(made.saveDialog.title, "Save file as")
+            compare(root.outputs.proposal, testWindow.product + " TX_0042 2 2021-03-05." + testWindow.nameFilters[0].slice(-4, -1))
             compare(Array.from(made.saveDialog.nameFilters), testWindow.nameFilters)
             verify(!made.saveDialog.selectExisting)
             compare(core.calls, [])
@@ -251,11 +254,24 @@ Item {
             compare(core.calls[0][1], "[2]")
             compare(Dialogs.open(made.dialogs), row.dialog)
             compare(made.progress, 0)
+            compare(root.unsaved !== "", row.save === -1)
+        }
+
+        function test_asksBeforeReplacing() {
+            root.outputs.present = ["file:///tmp/one.ending"]
+            made.selectedIdx = [1]
+            made.save("file:///tmp/one")
+            press(made.replaceQuestion.window.contentItem, "No")
+            compare([core.calls.length, made.saveDialog.visible, made.selectedIdx], [0, true, [1]])
+            compare(root.outputs.proposal, "file:///tmp/one.ending")
+            made.save("file:///tmp/one")
+            press(made.replaceQuestion.window.contentItem, "Yes")
+            compare(namesOf(core.calls), "createExperiment saveExperimentToFile")
         }
 
         function test_positionsAreSortedAsNumbers() {
             made.selectedIdx = [10, 9, 2]
-            made.download(["file:///a%23b.file"])
+            made.save(["file:///a%23b.file"])
             compare(core.calls, [["createExperiment", "[2,9,10]"], ["saveExperimentToFile", "file:///a%23b.file"]])
         }
 

@@ -296,6 +296,24 @@ Item {
             verify(Items.texts(window.contentItem).indexOf("File name shall not be empty") < 0)
         }
 
+        /// What the file's dialog has asked of itself is not asked again, but once only.
+        function test_reportAsksBeforeReplacing() {
+            report()
+            pickFile()
+            root.outputs.present = ["/tmp/a b/100% n#1.pdf"]
+            verify(submitted())
+            root.outputs.present = ["/tmp/a b/100% n#1.pdf", "beside.csv"]
+            compare(submitted(), null)
+            var question = made.replaceQuestion.window
+            verify(Items.texts(question.contentItem)[0].indexOf("/tmp/a b/100% n#1.pdf\nbeside.csv\n") > 0)
+            clickOn("buttonLabel", "No", question.contentItem)
+            compare([core.calls, made.reportItem.visible], [[], true])
+            compare(submitted(), null)
+            clickOn("buttonLabel", "Yes", question.contentItem)
+            compare(core.calls.length, 1)
+            root.outputs.present = []
+        }
+
         function sorted(object) {
             return Object.keys(object).sort().map(function (key) { return key + "=" + object[key] })
         }

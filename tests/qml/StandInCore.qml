@@ -5,6 +5,7 @@ import QtQuick 2.15
 QtObject {
     property string experiment
     property string devName
+    property var device: ({ SN: "TX/0042" })
     property string configuration
     property var deviceList: []
     property var experimentList: []

@@ -16,6 +16,19 @@ QtObject {
 
     readonly property bool busy: false
     readonly property string busyText: ""
+    property string unsaved
+    /// Remembers the proposal; the files of present exist.
+    readonly property QtObject outputs: QtObject {
+        property var present: []
+        property string proposal
+
+        function ofExperiment(product, fileName) { return String(fileName) + ".ending" }
+        function ofReport(product, json) { return [JSON.parse(json).fileName, "beside.csv"] }
+        function existing(files, asked) {
+            return files.filter(function (file) { return file !== String(asked) && present.indexOf(file) >= 0 })
+        }
+        function propose(name) { proposal = name }
+    }
 
     function wait(what, job, done) { done(job()) }
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }

@@ -85,6 +85,7 @@ private slots:
     void unplugInMidDownload();
     void closeInMidDownload();
     void doubleClicksCountOnce();
+    void asksBeforeReplacing();
     void refusesADamagedFile();
 
 private:
@@ -349,6 +350,37 @@ void TestWindow::doubleClicksCountOnce()
     QCOMPARE(std::count_if(m_instruments[0]->commands().cbegin(), m_instruments[0]->commands().cend(),
                            [](const QByteArray &command) { return command.startsWith("AT+CCLK="); }),
              1);
+}
+
+/// Names typed without their endings: what stands under the whole names is not lost unasked.
+void TestWindow::asksBeforeReplacing()
+{
+    const auto contentOf = [this](const char *name) {
+        QFile file(m_folder.filePath(QLatin1String(name)));
+        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    };
+    for (const char *name : {"one.tvx", "report.csv"}) {
+        QFile file(m_folder.filePath(QLatin1String(name)));
+        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
+    }
+    enter(QStringLiteral("THALVEX 2"));
+    click(experimentItem(1));
+    chooseFile(m_folder.filePath(QStringLiteral("one")));
+    press(QStringLiteral("No"));
+    QTRY_VERIFY(visibleWidget<QFileDialog>());
+    QCOMPARE(contentOf("one.tvx"), QByteArray("old"));
+    chooseFile(m_folder.filePath(QStringLiteral("one")));
+    press(QStringLiteral("Yes"));
+    QTRY_COMPARE(state(), QStringLiteral("Thalvex2ResultsState"));
+    QVERIFY(contentOf("one.tvx").size() > 3);
+
+    press(QStringLiteral("Generate report"));
+    press(QStringLiteral("File"));
+    chooseFile(m_folder.filePath(QStringLiteral("report")));
+    press(QStringLiteral("Generate PDF"));
+    press(QStringLiteral("No"));
+    QCOMPARE(contentOf("report.csv"), QByteArray("old"));
+    QVERIFY(contentOf("report.pdf").isEmpty());
 }
 
 void TestWindow::refusesADamagedFile()
