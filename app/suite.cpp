@@ -68,6 +68,9 @@ int runSuite(int argc, char **argv, PortNames portNames)
 
     tell(QStringLiteral("Loading core..."));
     Core core(std::move(portNames));
+    QFont messageFont(QStringLiteral("FreeSans")); // that of the pages
+    messageFont.setPixelSize(14);
+    QApplication::setFont(messageFont, "QMessageBox");
 
     tell(QStringLiteral("Starting models..."));
     QQmlApplicationEngine engine;

@@ -19,7 +19,12 @@ QtObject {
         title: question.title
         width: 460
         height: Math.max(150, words.implicitHeight + answers.height + 3 * Theme.margin)
-        onActiveChanged: if (active) noButton.forceActiveFocus()
+        onActiveChanged: {
+            if (!active)
+                return
+            noButton.forceActiveFocus()
+            noButton.focusReason = Qt.TabFocusReason // seen to be what Return presses
+        }
         onClosing: question.no()
 
         VfText {
@@ -39,6 +44,7 @@ QtObject {
 
             MyButton {
                 buttonLabel: qsTr("Yes")
+                dangerous: true
                 onMyButtonclicked: {
                     box.hide()
                     question.yes()
