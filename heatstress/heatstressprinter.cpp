@@ -157,7 +157,7 @@ int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
     for (const Log *log : logs) { // log by log: a day's worth of them does not fit a processor's cache
         const double time = double(log->registerDate().toMSecsSinceEpoch());
         for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
-            if (on[quantity])
+            if (on[quantity] && log->registerDate().isValid())
                 points[quantity].append({time, number(*log, unit, quantity)});
         }
     }

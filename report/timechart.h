@@ -7,7 +7,12 @@
 #include <QString>
 #include <QVector>
 
+#include <limits>
+
 class QPainter;
+namespace QtCharts {
+class QChart;
+}
 
 /// Values over time as smooth curves, on paper. Needs an application with widgets, but no window.
 class TimeChart
@@ -22,7 +27,8 @@ public:
     /// Curves that are added from now on are drawn with at most twice \a columns points. The standard is two
     /// columns to a pixel of the plot: the picture stays the same.
     void setColumns(int columns) { m_columns = columns; }
-    /// Adds a curve of \a points (ms since the epoch, value). \a name may hold "<sub>".
+    /// Adds a curve of \a points (ms since the epoch, value) in the order in which they were taken. \a name may hold
+    /// "<sub>". Where the clock was set back, the curve begins anew. A single point is a dot.
     void addCurve(const QString &name, const QVector<QPointF> &points);
 
     /// Draws the chart, \a size wide and high, with its corner at (\a x, \a y) of the window. Returns its height.
@@ -35,8 +41,10 @@ public:
 private:
     struct Curve {
         QString name;
-        QVector<QPointF> points;
+        QVector<QVector<QPointF>> pieces;
     };
+    void addCurves(QtCharts::QChart *chart) const;
+    void addAxes(QtCharts::QChart *chart) const;
 
     QFont m_font;
     QString m_title;
@@ -46,6 +54,6 @@ private:
     QVector<Curve> m_curves;
     qreal m_lowest = 200; ///< of all points, also those that are not drawn
     qreal m_highest = -200;
-    qreal m_begin = 0;
-    qreal m_end = 0;
+    qreal m_begin = std::numeric_limits<qreal>::infinity();
+    qreal m_end = -std::numeric_limits<qreal>::infinity();
 };

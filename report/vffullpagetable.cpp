@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/vffullpagetable.h"
 
+#include "report/dates.h"
 #include "report/pagecount.h"
 #include "report/rulepen.h"
 #include "report/vfsubsuperscript.h"
 
-#include <QLocale>
 #include <QPainter>
 #include <QtMath>
 
@@ -122,7 +122,7 @@ int VfFullPageTable::draw(int x, int y)
         const int column = left + block * PageCount::blockWidth(windowWidth, totalWidth());
         int height = 0;
         if (newDay)
-            height = drawDateRow(QLocale::system().toString(row.date, QLocale::ShortFormat), column, cursor);
+            height = drawDateRow(dateText(row.date), column, cursor);
         return height + drawRow(row, m_rowHeight, column, cursor + height);
     };
     return walk(y, beginPage, placeRow) ? 0 : -1;

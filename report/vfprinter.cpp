@@ -4,6 +4,7 @@
 #include "model/buildinfo.h"
 #include "model/experiment.h"
 #include "model/filename.h"
+#include "report/dates.h"
 #include "report/fonts.h"
 #include "report/rulepen.h"
 #include "report/vffullpagetable.h"
@@ -56,11 +57,6 @@ void removeIncomplete(const QString &path)
     const QFileInfo file(path);
     if (file.isFile())
         QFile::remove(file.canonicalFilePath());
-}
-
-QString systemDate(const QDateTime &moment)
-{
-    return QLocale::system().toString(moment.date(), QLocale::ShortFormat);
 }
 
 } // namespace
@@ -349,7 +345,7 @@ int VfPrinter::drawDate(const QDateTime &dateTime, int x, int y)
 
 QString VfPrinter::dateText(const QDateTime &dateTime) const
 {
-    return tr("Date") + QLatin1String(": ") + systemDate(dateTime.toLocalTime());
+    return tr("Date") + QLatin1String(": ") + ::dateText(dateTime.toLocalTime().date());
 }
 
 int VfPrinter::drawCaptionedValue(const QString &caption, const QString &value, int x, int y, const QRect &bounds)
@@ -389,7 +385,7 @@ void VfPrinter::drawIdentification()
 QString VfPrinter::calibrationText(const Calibration &calibration) const
 {
     return tr("Cal. cert.") + QLatin1String(": ") + calibration.certification + QLatin1Char(' ') +
-           systemDate(calibration.date);
+           ::dateText(calibration.date.date());
 }
 
 void VfPrinter::drawNotes()

@@ -83,6 +83,32 @@ QRectF PrintedReport::box(const QString &text, int page) const
     return {};
 }
 
+QVector<QVector<QPointF>> PrintedReport::curves() const
+{
+    static const QRegularExpression path(QStringLiteral(" d=\"([^\"]*)\""));
+    const QString svg =
+        QString::fromUtf8(outputOf(QStringLiteral("pdftocairo"), {QStringLiteral("-svg"), QStringLiteral("-l"),
+                                                                  QStringLiteral("1"), m_path, QStringLiteral("-")}));
+    QVector<QVector<QPointF>> curves;
+    for (auto match = path.globalMatch(svg); match.hasNext();) {
+        const QString commands = match.next().captured(1);
+        if (commands.count(QLatin1Char('C')) < 2 || commands.contains(QLatin1Char('Z')))
+            continue; // a letter or a box
+        QVector<QPointF> points;
+        QVector<double> numbers;
+        for (const QString &word : commands.split(QLatin1Char(' '), Qt::SkipEmptyParts)) {
+            bool isNumber = false;
+            const double number = word.toDouble(&isNumber);
+            if (isNumber)
+                numbers.append(number);
+        }
+        for (int i = 0; i + 1 < numbers.size(); i += 2)
+            points.append({numbers[i], numbers[i + 1]});
+        curves.append(points);
+    }
+    return curves;
+}
+
 QImage PrintedReport::image(int page, int dpi) const
 {
     const QStringList arguments{QStringLiteral("-png"), QStringLiteral("-gray"), QStringLiteral("-r"),

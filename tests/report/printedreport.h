@@ -30,6 +30,8 @@ public:
     QVector<Word> words(int page) const;
     /// The first word \a text of page \a page; a null box when there is none.
     QRectF box(const QString &text, int page = 1) const;
+    /// Ends and control points of the smooth lines of page 1, each line of more than one piece.
+    QVector<QVector<QPointF>> curves() const;
     /// Page \a page in shades of grey.
     QImage image(int page, int dpi) const;
     /// Fonts that are used, each with whether it is embedded: "FreeSans yes".

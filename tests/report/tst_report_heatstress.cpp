@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/fonts.h"
+#include "model/log.h"
+#include "report/smoothcurve.h"
 #include "report/timechart.h"
 #include "tests/model/fulldisk.h"
 #include "tests/report/measurements.h"
@@ -118,6 +120,10 @@ private slots:
     void sampleTexts_data();
     void sampleTexts();
     void reducedCurve();
+    void evenedCurve_data();
+    void evenedCurve();
+    void drawnCurves_data();
+    void drawnCurves();
     void keptPicture_data();
     void keptPicture();
 };
@@ -322,8 +328,10 @@ void TestReportHeatStress::decimalComma()
     const QString text = simplified(printed.report.text()).join(QLatin1Char('\n'));
     QVERIFY(text.contains(QLatin1String("Max: 31,33 Max: 25,31 Max: 37,35")));
     QVERIFY(text.contains(QLatin1String("001 09:37:01 28,1 22,0 34,2 25,7 25,0")));
-    QVERIFY(
-        text.contains(QRegularExpression(QStringLiteral("^38,\\d"), QRegularExpression::MultilineOption))); // the axis
+    Course steady;
+    steady.text = "25.3";
+    const Printed fine(family(0), Measurements::thalvex2(steady).get(), chartKeys);
+    QVERIFY(fine.report.text().contains(QLatin1String("25,4"))); // on the axis
     QVERIFY(printed.report.csv().contains("\r\n\"09:37:01\";\"28,1\";\"22,0\";\"34,2\";\"25,7\";\"25,0\"\r\n"));
 }
 
@@ -505,6 +513,100 @@ void TestReportHeatStress::reducedCurve()
     QVERIFY(few.contains(points[70001])); // a single sample out of a day is seen
     QVERIFY(std::is_sorted(few.cbegin(), few.cend(), [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); }));
     QCOMPARE(TimeChart::reduced(points.mid(0, 2400), 1200).size(), 2400);
+}
+
+void TestReportHeatStress::evenedCurve_data()
+{
+    QTest::addColumn<QVector<double>>("times");
+    QTest::addColumn<int>("pieces");
+    QTest::addColumn<int>("most"); // points that are added
+    QVector<double> even;
+    QVector<double> uneven;
+    QVector<double> backAndForth;
+    for (int i = 0; i < 60; ++i) {
+        even.append(i * 60000.0);
+        uneven.append(std::pow(i % 7 + 1, 9) + (uneven.isEmpty() ? 0 : uneven.last()));
+        backAndForth.append(i % 2 * 1000.0);
+    }
+    QTest::newRow("even") << even << 1 << 0;
+    QTest::newRow("a pause") << even + QVector<double>{240 * 60000.0, 241 * 60000.0} << 1 << 14;
+    QTest::newRow("a pause to the last") << even + QVector<double>{1e9} << 1 << 16;
+    QTest::newRow("uneven") << uneven << 1 << 400;
+    QTest::newRow("clock set back") << even + even << 2 << 0;
+    QTest::newRow("of the same moment") << QVector<double>(60, 5.0) << 1 << 0;
+    QTest::newRow("no clock at all") << backAndForth << 1 << 20;
+    QTest::newRow("one") << QVector<double>{5.0} << 1 << 0;
+    QTest::newRow("two") << QVector<double>{5.0, 6e9} << 1 << 0;
+    QTest::newRow("none") << QVector<double>() << 0 << 0;
+}
+
+void TestReportHeatStress::evenedCurve()
+{
+    QFETCH(QVector<double>, times);
+    QVector<QPointF> points;
+    for (const double time : times)
+        points.append({time, points.size() % 2 * 10.0});
+    const QVector<QVector<QPointF>> pieces = SmoothCurve::pieces(points);
+    QTEST(pieces.size(), "pieces");
+    int samples = 0;
+    int drawn = 0;
+    for (const QVector<QPointF> &piece : pieces) {
+        const QVector<QPointF> curve = SmoothCurve::evened(piece);
+        samples +=
+            int(std::count_if(piece.cbegin(), piece.cend(), [&](const QPointF &p) { return curve.contains(p); }));
+        drawn += curve.size();
+        for (int i = 2; i < curve.size(); ++i) {
+            const double ratio = (curve[i].x() - curve[i - 1].x()) / (curve[i - 1].x() - curve[i - 2].x());
+            QVERIFY2(ratio > 0.333 && ratio < 3.001, qPrintable(QString::number(ratio)));
+        }
+    }
+    QCOMPARE(samples, points.size());
+    QFETCH(int, most);
+    QVERIFY2(drawn - samples <= most, qPrintable(QString::number(drawn - samples)));
+}
+
+void TestReportHeatStress::drawnCurves_data()
+{
+    QTest::addColumn<int>("samples");
+    QTest::addColumn<int>("from"); ///< the first sample of another clock
+    QTest::addColumn<int>("seconds");
+    QTest::addColumn<int>("curves");
+    QTest::addColumn<QStringList>("labels");
+    QTest::newRow("a pause") << 29 << 14 << 7200 << 1 << QStringList{"10:00:00", "10:30:00", "11:00:00", "11:30:00"};
+    QTest::newRow("a day of reduced samples")
+        << 8000 << 8000 << 0 << 1 << QStringList{"00:00:00", "14 Oct 2019", "13 Oct 2019"};
+    QTest::newRow("a clock set back") << 60 << 30 << -1200 << 2 << QStringList{"09:40:00", "09:50:00"};
+    QTest::newRow("midnight") << 60 << 0 << 14 * 3600 << 1
+                              << QStringList{"23:40:00", "9 Oct 2019", "00:00:00", "10 Oct 2019"};
+    QTest::newRow("one sample") << 1 << 0 << 0 << 0 << QStringList{"09:36:20", "09:37:00", "09:37:40"};
+}
+
+/// The paths that a reader of the PDF draws.
+void TestReportHeatStress::drawnCurves()
+{
+    QFETCH(int, samples);
+    QFETCH(int, from);
+    QFETCH(int, seconds);
+    QFETCH(QStringList, labels);
+    Course course;
+    course.samples = samples;
+    const ExperimentChain experiment = Measurements::thalvex2(course);
+    const QList<Log *> logs = experiment->logs();
+    for (Log *log : logs.mid(from))
+        log->setRegisterDate(log->registerDate().addSecs(seconds));
+    const Printed printed(family(0), experiment.get(), {"ckbChart", "ckbGlobeTempChart"});
+    int curves = 0;
+    for (const QVector<QPointF> &curve : printed.report.curves()) {
+        ++curves;
+        const auto back = std::is_sorted_until(curve.cbegin(), curve.cend(),
+                                               [](const QPointF &a, const QPointF &b) { return a.x() < b.x() - 0.01; });
+        QVERIFY2(back == curve.cend(), qPrintable(QStringLiteral("back at %1").arg(back - curve.cbegin())));
+    }
+    QTEST(curves, "curves");
+    const QString text = printed.report.text();
+    for (const QString &label : labels)
+        QVERIFY2(text.contains(label), qPrintable(label + QLatin1String(" is not in:\n") + text));
+    QCOMPARE(overlaps(printed.report.words(1)), QStringList());
 }
 
 void TestReportHeatStress::keptPicture_data()
