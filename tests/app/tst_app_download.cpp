@@ -5,6 +5,8 @@
 #include "tests/families/familycase.h"
 
 #include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QtTest>
 
 #include <cstdio>
@@ -50,6 +52,15 @@ QByteArray unpluggedBehind(qint64 count, int family)
     return plugged.core.experiment().isEmpty() && plugged.found() + plugged.listed() == 0 ? "" : "something is left";
 }
 
+/// The experiments of the chain from the current one on, as the pages read them.
+QStringList members(Core &core)
+{
+    QStringList texts{core.experiment()};
+    for (core.nextExp(); core.experiment() != texts.last(); core.nextExp())
+        texts.append(core.experiment());
+    return texts;
+}
+
 /// Every `step`-th byte from `first` on, in a process of its own: each costs half a second of silence.
 int slice(const QStringList &arguments)
 {
@@ -87,6 +98,29 @@ private slots:
             QCOMPARE(plugged.core.createExperiment("[1]"), 0);
             QCOMPARE(plugged.core.experiment(), whole);
         }
+    }
+
+    void savesAChain_data() { splitAtEveryPosition_data(); }
+    void savesAChain()
+    {
+        QFETCH(int, family);
+        const FamilyCase &kind = familyCases()[family];
+        const QTemporaryDir folder;
+        PluggedCore plugged(kind.make(workingDays()));
+        QCOMPARE(plugged.begin(), 0);
+        QCOMPARE(plugged.core.createExperiment("[0,2,3]"), 0);
+        QStringList downloaded = members(plugged.core);
+        QCOMPARE(downloaded.size(), 3);
+        const QString path = folder.filePath("chain") + kind.ending;
+        QCOMPARE(plugged.core.saveExperimentToFile(path), 0);
+
+        Core reader([] { return QStringList(); });
+        QSignalSpy position(&reader, &Core::experimentUpdated);
+        reader.parseFile(path);
+        const bool first = kind.ending == QByteArray(".tvx"); // the smaller heat-stress meter's files show the first
+        QCOMPARE(position.value(0).value(0).toInt(), first ? -3 : -2);
+        QCOMPARE(members(reader), first ? downloaded.mid(0, 1) : downloaded);
+        QCOMPARE(reader.expCompList().value<QList<QObject *>>().size(), kind.hasMeasuringPoints ? 3 : 0);
     }
 
     /// Each byte costs half a second: of sisters whose answers are alike the one with more of them.

@@ -405,29 +405,6 @@ private slots:
         }
     }
 
-    void savesAChain()
-    {
-        const QTemporaryDir folder;
-        for (const bool larger : {false, true}) {
-            PluggedCore plugged(larger ? simulatedThalvex4() : simulatedThalvex2());
-            Core &core = plugged.core;
-            QCOMPARE(plugged.begin(), 0);
-            QCOMPARE(core.createExperiment("[0,1,0]"), 0);
-            core.nextExp();
-            const QString path = folder.filePath(larger ? "chain.tv4" : "chain.tvx");
-            QCOMPARE(core.saveExperimentToFile(path), 0);
-            QSignalSpy position(&core, &Core::experimentUpdated);
-            core.parseFile(path);
-            QCOMPARE(position.last().first().toInt(), larger ? -2 : -3); // the smaller meter's files show the first
-            QSignalSpy results(&core, &Core::resultsUpdated);
-            core.nextExp();
-            core.nextExp();
-            core.nextExp();
-            QCOMPARE(results.size(), larger ? 2 : 0);
-            QCOMPARE(json(core.experiment())["eventIndex"].toInt(), larger ? 3 : 1);
-        }
-    }
-
     /// Another instrument is picked while the measurements of the first are shown: they are kept as what they are.
     void savesAsTheFamilyThatMeasured()
     {

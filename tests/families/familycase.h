@@ -70,6 +70,7 @@ struct FamilyCase {
     int listRefusal;
     QVector<Parsed> records; ///< short JSON of the first record
     QVector<ParsedHeader> headerLines;
+    bool hasMeasuringPoints = false; ///< exposure components
     QByteArray missing = "{}"; ///< short JSON of what keys that a file does not have read as, where that is not empty
     /// Configurations as the window sends them, and what the instrument is then told, in order.
     QByteArray configuration;

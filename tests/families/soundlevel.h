@@ -28,6 +28,7 @@ inline FamilyCase soundLevelCase(const char *product, const char *ending)
         {"set time weighting", family.written[1], answerIsWhole, write, true},
     };
 
+    family.hasMeasuringPoints = true;
     family.missing = "{'SEL':'---','lPeak':'---','preChkDate':''}";
 
     const QByteArray listed = "{'index':'3','size':'25','date':'21/03/05,14:30:00-12','expName':";
