@@ -7,13 +7,14 @@ import "../../qml/widgets/texts.js" as Texts
 VfFrame {
     id: item
 
-    /// {label, figures, and the keys of the figures: maximum, average, minimum}.
+    /// {label, figures, and the keys of the figures: maximum, average, minimum; whether it is what decides}.
     property var quantity: modelData
 
     function figure(line) { return Texts.numberText(quantity.figures[quantity[line]], root.numberToLocalString) }
 
     label: quantity.label
-    implicitWidth: 150
+    color: quantity.decides ? Theme.decisiveGround : Theme.ground
+    implicitWidth: quantity.decides ? 190 : 150
     height: 140
 
     Column {
@@ -28,7 +29,7 @@ VfFrame {
                 VfText { text: modelData.label + " [" + Texts.shown(item.quantity.figures.unity, 12) + "]:"; color: Theme.quietText }
                 VfText {
                     text: item.figure(modelData.line)
-                    font { pixelSize: Theme.largeSize; bold: true }
+                    font { pixelSize: item.quantity.decides ? Theme.decisiveSize : Theme.largeSize; bold: true }
                 }
             }
         }

@@ -118,8 +118,8 @@ Item {
                         { label: qsTr("Wet bulb"), maximum: "wetTMax", minimum: "wetTMin" },
                         { label: qsTr("Dry bulb"), maximum: "dryTMax", minimum: "dryTMin" },
                         { label: qsTr("Globe"), maximum: "globeTMax", minimum: "globeTMin" },
-                        { label: qsTr("WBGTi"), average: view.indoorRole + "Med" },
-                        { label: qsTr("WBGTo"), average: view.outdoorRole + "Med" }
+                        { label: qsTr("WBGTi"), average: view.indoorRole + "Med", decides: true },
+                        { label: qsTr("WBGTo"), average: view.outdoorRole + "Med", decides: true }
                     ].map(function (row) { return Object.assign({ figures: view.figures }, row) })
                 }
             }

@@ -6,6 +6,7 @@ import QtQuick 2.15
 QtObject {
     readonly property color ground: "white"
     readonly property color quietGround: "#f4f4f4"  ///< heads, alternate rows, fields that cannot be changed
+    readonly property color decisiveGround: "#ffeedd"   ///< below the figures that decide
     readonly property color line: "#c8c8c8"
     readonly property color fieldLine: "#a0a0a0"    ///< around what can be typed in or picked
     readonly property color text: "#202020"
@@ -24,6 +25,7 @@ QtObject {
     readonly property int fontSize: 14
     readonly property int smallSize: 13
     readonly property int largeSize: 20
+    readonly property int decisiveSize: 36
 
     readonly property int margin: 24                ///< between a page's edge and its content
     readonly property int spacing: 16               ///< between groups
@@ -31,4 +33,5 @@ QtObject {
     readonly property int pageTop: 72               ///< where content begins, below title and logo
     readonly property int controlHeight: 32
     readonly property int radius: 3
+    readonly property int barWidth: 12              ///< of the bars of a table
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import "."
+import "texts.js" as Texts
 
 /// The calibration record of the instrument: the number of its certificate and the date of the calibration.
 VfFrame {
@@ -30,6 +31,7 @@ VfFrame {
             label: qsTr("Cal. cert.") + ":"
             labelWidth: frame.labelWidth
             maximumLength: 16
+            placeholderText: Texts.absent
         }
         VfInputDate {
             id: date

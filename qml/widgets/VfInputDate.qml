@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import "."
+import "texts.js" as Texts
 
 /// A labelled date in the locale's short form; a click or Return opens a calendar.
 Row {
@@ -22,7 +23,7 @@ Row {
         id: field
 
         readOnly: true
-        text: isNaN(input.value) ? "---" : input.value.toLocaleDateString(Qt.locale(), Locale.ShortFormat)
+        text: isNaN(input.value) ? Texts.absent : input.value.toLocaleDateString(Qt.locale(), Locale.ShortFormat)
 
         MouseArea { parent: field.field; anchors.fill: parent; onClicked: input.edit() }
     }
