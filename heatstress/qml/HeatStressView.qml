@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import "../../qml/widgets"
 
-/// Table, chart and results of a heat-stress unit in three tabs. A tab is made when it is first looked at, and takes over
-/// a new experiment when it is looked at again.
+/// Table, chart and results of a heat-stress unit in three tabs.
 Item {
     id: view
 
@@ -18,7 +16,7 @@ Item {
     property var figures: ({})
     property var reading: function (record) { return record }
     readonly property string unity: figures.unity || ""
-    readonly property alias currentTab: swipe.currentIndex
+    readonly property alias currentTab: tabs.currentTab
     readonly property var table: tableTab.item ? tableTab.item.table : null
     readonly property alias temperatureChart: chartTab.item
     readonly property var resultItems: resultTab.item ? resultTab.item.items : null
@@ -27,8 +25,7 @@ Item {
         experiment = parsed
         figures = unitFigures
         reading = unitReading
-        swipe.stale = [true, true, true]
-        fill(swipe.currentIndex)
+        tabs.renew()
     }
 
     /// Lets go of the records.
@@ -40,45 +37,24 @@ Item {
             temperatureChart.clear()
     }
 
-    function fill(tab) {
-        if (!experiment || !swipe.stale[tab])
-            return
-        swipe.stale[tab] = false
-        var loader = [tableTab, chartTab, resultTab][tab]
-        loader.active = true
-        if (loader === tableTab)
-            table.show(experiment.logList || [])
-        if (loader === chartTab)
-            loader.item.populateSeries(experiment, figures, reading, indoorRole, outdoorRole)
-    }
+    function setTab(tab) { tabs.setTab(tab) }
 
-    function setTab(tab) { tabs.setCurrentIndex(tab) }
-
-    TabBar {
+    VfTabs {
         id: tabs
 
-        anchors { left: parent.left; right: parent.right }
-        background: Rectangle { color: Theme.quietGround; border { width: 1; color: Theme.line } }
-        currentIndex: swipe.currentIndex
-        spacing: 1
-        VfTabButton { text: qsTr("Table") }
-        VfTabButton { text: qsTr("Temperature x Time") }
-        VfTabButton { text: qsTr("Results") }
-    }
+        anchors.fill: parent
+        onFill: {
+            if (!view.experiment)
+                page.stale = true
+            else if (page === tableTab)
+                view.table.show(view.experiment.logList || [])
+            else if (page === chartTab)
+                page.item.populateSeries(view.experiment, view.figures, view.reading, view.indoorRole, view.outdoorRole)
+        }
 
-    SwipeView {
-        id: swipe
-
-        property var stale: [true, true, true]
-
-        anchors { left: parent.left; right: parent.right; top: tabs.bottom; bottom: parent.bottom; topMargin: Theme.gap }
-        clip: true
-        currentIndex: tabs.currentIndex
-        onCurrentIndexChanged: view.fill(currentIndex)
-
-        Loader { id: tableTab; active: false; sourceComponent: tablePage }
-        Loader { id: chartTab; active: false; sourceComponent: view.chart }
-        Loader { id: resultTab; active: false; sourceComponent: resultPage }
+        VfTabPage { id: tableTab; title: qsTr("Table"); sourceComponent: tablePage }
+        VfTabPage { id: chartTab; title: qsTr("Temperature x Time"); sourceComponent: view.chart }
+        VfTabPage { id: resultTab; title: qsTr("Results"); sourceComponent: resultPage }
     }
 
     Component {

@@ -44,8 +44,9 @@ Item {
             selectionColor: Theme.accent
             wrapMode: TextEdit.Wrap
             // Tab leads on to the next field, as everywhere in the window.
-            KeyNavigation.priority: KeyNavigation.BeforeItem
-            KeyNavigation.tab: nextItemInFocusChain()
+            Keys.priority: Keys.BeforeItem
+            Keys.onTabPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
+            Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
             Accessible.name: notes.label
             Accessible.role: Accessible.EditableText
             onTextChanged: {

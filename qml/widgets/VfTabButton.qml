@@ -9,7 +9,11 @@ TabButton {
     id: tab
 
     implicitHeight: 34
+    Keys.onReturnPressed: click()
+    Keys.onEnterPressed: click()
     Accessible.role: Accessible.PageTab
+    Accessible.selected: checked
+    Accessible.onPressAction: click()
     Accessible.name: Texts.plain(text)
 
     contentItem: VfText {
