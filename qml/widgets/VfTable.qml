@@ -19,10 +19,14 @@ C1.TableView {
         return sum
     }
 
-    /// What the bar and the frame take beside the columns.
-    readonly property real barWidth: 24
+    /// What the frame, and the bar if there is one, take beside the columns.
+    readonly property real barWidth: 2 + (barNeeded ? Theme.barWidth : 0)
+    readonly property bool barNeeded: headHeight + rowCount * rowHeight > height - 2
+    readonly property int headHeight: 30
+    readonly property int rowHeight: 24
 
     function show(list) {
+        currentRow = -1
         model = 0
         rows = list
         model = list.length
@@ -30,17 +34,35 @@ C1.TableView {
             positionViewAtRow(0, ListView.Beginning)
     }
 
+    /// What a row says, column by column.
+    function rowText(place) {
+        var row = rows[place], parts = []
+        for (var i = 0; row !== undefined && i < columnCount; ++i)
+            parts.push(Texts.plain(getColumn(i).title) + " " + cellText(row, getColumn(i).role))
+        return parts.join(", ")
+    }
+
+    style: VfTableStyle {}
     frameVisible: true
     backgroundVisible: false
     selectionMode: C1.SelectionMode.SingleSelection
     horizontalScrollBarPolicy: columnsWidth > viewport.width ? Qt.ScrollBarAsNeeded : Qt.ScrollBarAlwaysOff
+    verticalScrollBarPolicy: barNeeded ? Qt.ScrollBarAlwaysOn : Qt.ScrollBarAlwaysOff
+    onActiveFocusChanged: if (activeFocus && currentRow < 0 && rowCount > 0) currentRow = 0
     Accessible.role: Accessible.Table
+    Accessible.name: rowCount + " " + qsTr("rows")
 
     headerDelegate: Rectangle {
-        height: 30
+        height: table.headHeight
+        clip: title.implicitWidth > width
         color: Theme.quietGround
+        Accessible.role: Accessible.ColumnHeader
+        Accessible.name: Texts.plain(styleData.value)
         Text {
-            anchors.centerIn: parent
+            id: title
+
+            x: Math.max(4, (parent.width - implicitWidth) / 2)
+            anchors.verticalCenter: parent.verticalCenter
             color: Theme.text
             font { family: fontSans.name; pixelSize: 12; bold: true }
             textFormat: Text.RichText
@@ -49,8 +71,12 @@ C1.TableView {
         Rectangle { anchors { right: parent.right; top: parent.top; bottom: parent.bottom } width: 1; color: Theme.line }
     }
     rowDelegate: Rectangle {
-        height: 24
+        height: table.rowHeight
         color: styleData.selected ? Theme.accent : styleData.alternate ? Theme.quietGround : Theme.ground
+        Accessible.role: Accessible.Row
+        Accessible.name: styleData.row === undefined ? "" : table.rowText(styleData.row)
+        Accessible.selectable: true
+        Accessible.selected: styleData.selected
     }
     itemDelegate: Item {
         // The rows can be fewer than the model for the moment in which it shrinks.
@@ -66,5 +92,17 @@ C1.TableView {
             verticalAlignment: Text.AlignVCenter
             wrapMode: Text.Wrap
         }
+    }
+
+    VfSpoken {
+        active: table.activeFocus
+        keysTo: [table.__listView]
+        text: active ? table.rowText(table.currentRow) : ""
+    }
+    Rectangle {
+        anchors.fill: parent
+        border { width: table.activeFocus ? 2 : 1; color: table.activeFocus ? Theme.accent : Theme.line }
+        color: "transparent"
+        z: 1
     }
 }
