@@ -38,6 +38,7 @@ VfConfigurationWindow {
             Repeater {
                 model: window.unities
                 VfRadioButton {
+                    group: qsTr("Unity")
                     text: modelData
                     checked: window.unity === modelData
                     onToggled: window.unity = modelData

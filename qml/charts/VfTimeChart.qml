@@ -262,6 +262,7 @@ FocusScope {
     }
 
     FocusFrame { anchors.margins: 0; shown: timeChart.activeFocus }
+    VfSpoken { active: timeChart.activeFocus; text: Texts.plain(hover.y_text) }
 
     MouseArea {
         anchors.fill: parent

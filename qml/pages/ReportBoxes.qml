@@ -26,6 +26,7 @@ Column {
         VfCheckBox {
             checked: boxes.values[modelData.key] === true
             enabled: !boxes.headed || boxes.values[boxes.group.key] === true
+            group: boxes.group.title
             leftPadding: boxes.headed ? 20 : 2
             text: modelData.label
             onToggled: boxes.toggled(modelData.key, checked)

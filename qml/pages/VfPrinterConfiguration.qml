@@ -81,6 +81,7 @@ Window {
             Layout.fillWidth: true
             checked: window.isOn(modelData.on)
             enabled: window.isOn(modelData.under)
+            group: parent ? parent.group : ""
             label: modelData.label + ":"
             placeholderText: qsTr("E.g.") + " " + modelData.example
             onToggled: window.set(modelData.on, on)
@@ -149,6 +150,8 @@ Window {
                     label: qsTr("Client")
                     Layout.fillWidth: true
                     ColumnLayout {
+                        property string group: qsTr("Client")
+
                         width: parent.width
                         spacing: 2
                         Repeater { model: window.client; delegate: textField }
@@ -158,6 +161,8 @@ Window {
                     label: qsTr("Identification")
                     Layout.fillWidth: true
                     ColumnLayout {
+                        property string group: qsTr("Identification")
+
                         width: parent.width
                         spacing: 2
                         Repeater { model: window.identification; delegate: textField }

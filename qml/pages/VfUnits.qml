@@ -70,6 +70,8 @@ Item {
         clip: true
     }
 
+    VfSpoken { parent: list; active: list.activeFocus; text: units.nameOf(list.currentIndex) }
+
     Rectangle {
         id: side
 

@@ -7,13 +7,16 @@ import "."
 CheckBox {
     id: box
 
+    /// What it belongs to, for those who cannot see it; others may have the same text.
+    property string group
+
     padding: 2
     spacing: 8
     implicitHeight: 24
     font { family: fontSans.name; pixelSize: Theme.smallSize }
     opacity: enabled ? 1 : 0.5
     Accessible.role: Accessible.CheckBox
-    Accessible.name: text
+    Accessible.name: group ? group + ": " + text : text
     Accessible.checked: checked
     Keys.onReturnPressed: { toggle(); toggled() }
     Keys.onEnterPressed: { toggle(); toggled() }

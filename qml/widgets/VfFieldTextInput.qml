@@ -8,6 +8,8 @@ Item {
     id: input
 
     property string label
+    /// What the text is about, for those who cannot see it.
+    property string group
     property alias checked: box.checked
     property alias text: field.text
     property alias placeholderText: field.placeholderText
@@ -23,6 +25,7 @@ Item {
         id: box
 
         anchors.verticalCenter: parent.verticalCenter
+        group: input.group
         text: input.label
         width: input.labelWidth + 28
         onToggled: input.toggled(checked)
@@ -44,7 +47,7 @@ Item {
         topPadding: 2
         bottomPadding: 2
         onTextChanged: input.edited(text)
-        Accessible.name: input.label
+        Accessible.name: box.Accessible.name
         Accessible.role: Accessible.EditableText
         background: Rectangle {
             color: field.enabled ? Theme.ground : Theme.quietGround

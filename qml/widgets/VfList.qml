@@ -72,4 +72,5 @@ Item {
     }
 
     FocusFrame { shown: view.activeFocus }
+    VfSpoken { parent: view; active: view.activeFocus; text: view.currentItem ? view.currentItem.description : "" }
 }

@@ -7,12 +7,15 @@ import "."
 RadioButton {
     id: button
 
+    /// What is chosen, for those who cannot see it.
+    property string group
+
     font { family: fontSans.name; pixelSize: Theme.fontSize }
     spacing: Theme.gap
     Keys.onReturnPressed: checked = true
     Keys.onEnterPressed: checked = true
     Accessible.role: Accessible.RadioButton
-    Accessible.name: text
+    Accessible.name: group ? group + ": " + text : text
     Accessible.checked: checked
 
     indicator: Rectangle {

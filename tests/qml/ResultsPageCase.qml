@@ -219,6 +219,49 @@ Item {
             tryCompare(view(), "currentTab", 1)
         }
 
+        /// Two rounds of Tab stop at the same places, all of them in sight, whatever tab was looked at before.
+        function test_tabStops() {
+            show(0)
+            view().setTab(1)
+            view().setTab(0)
+            tryVerify(function () { return Math.abs(view().table.mapToItem(view(), 0, 0).x) < view().width })
+            var rounds = []
+            Items.first(made, "buttonLabel", "Generate report").forceActiveFocus(Qt.TabFocusReason)
+            for (var i = 0; i < 2; ++i) {
+                var stops = []
+                do {
+                    var stop = testCase.Window.window.activeFocusItem
+                    while (!stop.activeFocusOnTab)
+                        stop = stop.parent
+                    verify(stop.visible && stop.enabled && Math.abs(stop.mapToItem(made, 0, 0).x) < made.width, stop)
+                    stops.push(String(stop))
+                    keyClick(Qt.Key_Tab)
+                } while (testCase.Window.window.activeFocusItem.buttonLabel !== "Generate report" && stops.length < 50)
+                rounds.push(stops.join())
+            }
+            verify(stops.length > 5 && stops.length < 50)
+            compare(rounds[1], rounds[0])
+        }
+
+        /// What the keys reach in chart and table becomes the focus of those who listen.
+        function test_told() {
+            function told(item) {
+                return Items.all(item, function (part) { return part.tell && part.activeFocus })
+                    .map(function (part) { return part.Accessible.name }).join()
+            }
+            show()
+            view().table.forceActiveFocus()
+            tryVerify(function () { return told(view().table).indexOf("Hour 14:30:00, Twet [°C] 24.10, ") === 0 })
+            keyClick(Qt.Key_Down)
+            verify(told(view().table).indexOf("Hour 14:31:00, Twet [°C] ---, ") === 0)
+            view().setTab(1)
+            view().temperatureChart.forceActiveFocus()
+            keyClick(Qt.Key_Right)
+            tryVerify(function () { return told(view().temperatureChart) === "Twet [°C]: 24.10, 14:30:00" })
+            keyClick(Qt.Key_Down)
+            compare(told(view().temperatureChart), "Tdry [°C]: 30.20, 14:30:00")
+        }
+
         function test_arrows_data() {
             return [{ tag: "no experiment", position: -4, left: false, right: false },
                     { tag: "the only one", position: -3, left: false, right: false },
@@ -281,6 +324,8 @@ Item {
         function test_report() {
             var window = report(), everything = {}
             compare(window.width, testWindow.reportWidth)
+            var names = reportBoxes().map(function (box) { return box.Accessible.name })
+            verify(names.every(function (name, i) { return names.indexOf(name) === i }), "each says its group")
             compare(submitted(), null)
             verify(Items.texts(window.contentItem).indexOf("File name shall not be empty") >= 0)
 
