@@ -153,7 +153,8 @@ FocusScope {
         if (current < 0)
             return ""
         return names[current] + ": " + Number(values[current][record]).toLocaleString(Qt.locale()) + valueSuffix
-             + "<br>" + Texts.timeText(new Date(times[record]))
+             + "<br>" + (severalDays ? new Date(times[record]).toLocaleDateString(Qt.locale(), Locale.ShortFormat) + " " : "")
+             + Texts.timeText(new Date(times[record]))
     }
 
     activeFocusOnTab: true

@@ -43,20 +43,19 @@ function readings(records, moment, roles, reading) {
     // Arrays of plain numbers: the engine's garbage collection does not walk them.
     var times = new Float64Array(records.length), count = 0, sorted = true, last = -Infinity
     var values = roles.map(function () { return new Float64Array(records.length) })
-    var known = {}      // a day of records repeats a few hundred texts
-    for (var i = 0; i < records.length; ++i) {
-        var record = records[i], time = moment(record.date)
+    records.forEach(function (record) {
+        var time = moment(record.date)
         if (time !== time)
-            continue
+            return
         sorted = sorted && time >= last
         last = times[count] = time
         var part = reading(record)
         for (var k = 0; k < roles.length; ++k) {
-            var text = part[roles[k]], value = known[text]
-            values[k][count] = value === undefined ? (known[text] = number(text)) : value
+            var text = part[roles[k]], value = +text
+            values[k][count] = value !== 0 && value * 0 === 0 ? value : number(text)
         }
         ++count
-    }
+    })
     return { times: times.subarray(0, count), sorted: sorted,
              values: values.map(function (curve) { return curve.subarray(0, count) }) }
 }

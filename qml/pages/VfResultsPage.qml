@@ -2,6 +2,7 @@
 import QtQuick 2.15
 import "../widgets"
 import "experiments.js" as Experiments
+import "records.js" as Records
 
 /// The base of the results pages: hears of every new experiment, takes those of its own product, and walks along a chain.
 /// A family names its data block, its view and its report window, and fills the view.
@@ -55,7 +56,9 @@ VfPage {
             viewItem.forget()
             infoItem.experiment = {}
         }
-        experiment = JSON.parse(text)
+        experiment = Records.read(text)
+        if (!experiment)
+            return dialogs.invalidFileDialog.open()
         previous.visible = position === root.expLastItem || position === root.expMiddleItem
         next.visible = position === root.expFirstItem || position === root.expMiddleItem
         viewLoader.active = true

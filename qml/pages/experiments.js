@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // How the results pages tell whose an experiment is.
 .pragma library
+.import "records.js" as Records
 
 // The product of the session's instrument while its own page shows the experiment; "" while that is another's.
 var taken = ""
@@ -15,17 +16,8 @@ function deviceName(text) {
             return JSON.parse(found[2])
         head = head.substring(found[0].length)
     }
-    var experiment = parsed(text)
+    var experiment = Records.read(text)
     return experiment ? experiment.deviceName : undefined
-}
-
-// The object of a JSON text, null for a text that is none.
-function parsed(text) {
-    try {
-        return JSON.parse(text)
-    } catch (e) {
-        return null
-    }
 }
 
 // A name, without ending, for the file of the picked entries {index, dateTime} of an instrument's list. The system with the

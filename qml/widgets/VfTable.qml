@@ -4,7 +4,8 @@ import QtQuick.Controls 1.4 as C1
 import "."
 import "texts.js" as Texts
 
-/// A table over a JS array of any length: its model is the number of rows, and only what is on screen is made into text.
+/// A table over rows of any length, a JS array or what answers as one by length and at(place): its model is the number of
+/// rows, and only what is on screen is made into text.
 C1.TableView {
     id: table
 
@@ -24,6 +25,8 @@ C1.TableView {
     readonly property bool barNeeded: headHeight + rowCount * rowHeight > height - 2
     readonly property int headHeight: 30
     readonly property int rowHeight: 24
+
+    function rowAt(place) { return rows.at ? rows.at(place) : rows[place] }
 
     function show(list) {
         currentRow = -1
@@ -80,7 +83,7 @@ C1.TableView {
     }
     itemDelegate: Item {
         // The rows can be fewer than the model for the moment in which it shrinks.
-        readonly property var row: table.rows[styleData.row]
+        readonly property var row: table.rowAt(styleData.row)
         Text {
             anchors.fill: parent
             color: styleData.selected ? Theme.textOnDark : Theme.text

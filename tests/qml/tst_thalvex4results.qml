@@ -94,7 +94,7 @@ ResultsPageCase {
 
         function outdoors() {
             var table = made.viewItem.currentView.table
-            return table.cellText(table.rows[0], "WBGTo")
+            return table.cellText(table.rowAt(0), "WBGTo")
         }
 
         /// One page shows experiments of 4, 1, 3, 2 and 4 units in turn, and is looked at in each.
