@@ -3,6 +3,7 @@
 
 #include "model/buildinfo.h"
 #include "model/experiment.h"
+#include "model/field.h"
 #include "model/filename.h"
 #include "report/dates.h"
 #include "report/fonts.h"
@@ -384,7 +385,9 @@ void VfPrinter::drawIdentification()
 
 QString VfPrinter::calibrationText(const Calibration &calibration) const
 {
-    return tr("Cal. cert.") + QLatin1String(": ") + calibration.certification + QLatin1Char(' ') +
+    const QString certificate =
+        calibration.certification.trimmed().isEmpty() ? absentText() : calibration.certification;
+    return tr("Cal. cert.") + QLatin1String(": ") + certificate + QLatin1Char(' ') +
            ::dateText(calibration.date.date());
 }
 

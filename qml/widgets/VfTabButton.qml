@@ -8,12 +8,14 @@ import "texts.js" as Texts
 TabButton {
     id: tab
 
+    function choose() { TabBar.tabBar.setCurrentIndex(TabBar.index) }
+
     implicitHeight: 34
-    Keys.onReturnPressed: click()
-    Keys.onEnterPressed: click()
+    Keys.onReturnPressed: choose()
+    Keys.onEnterPressed: choose()
     Accessible.role: Accessible.PageTab
     Accessible.selected: checked
-    Accessible.onPressAction: click()
+    Accessible.onPressAction: choose()
     Accessible.name: Texts.plain(text)
 
     contentItem: VfText {

@@ -217,6 +217,9 @@ Item {
             Items.first(made, "text", "Temperature x Time").forceActiveFocus(Qt.TabFocusReason)
             keyClick(Qt.Key_Space)
             tryCompare(view(), "currentTab", 1)
+            Items.first(made, "text", "Results").forceActiveFocus(Qt.TabFocusReason)
+            keyClick(Qt.Key_Return)
+            tryCompare(view(), "currentTab", 2)
         }
 
         /// Two rounds of Tab stop at the same places, all of them in sight, whatever tab was looked at before.
