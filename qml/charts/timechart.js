@@ -36,26 +36,34 @@ function number(text) {
     return !isFinite(value) || value === 0 && String(text).indexOf("0") < 0 ? NaN : value
 }
 
-// Times and values of the records that have a time: {times, sorted, values: one array for each role}.
+// Times and values of the records that have a time: {times, sorted, values: one array for each role}. Records that can
+// visit() themselves are asked to (see pages/records.js).
 // reading(record) is the part of a record with the texts of the roles. A value that is no number is NaN: it is not drawn
 // and not pointed at.
 function readings(records, moment, roles, reading) {
     // Arrays of plain numbers: the engine's garbage collection does not walk them.
     var times = new Float64Array(records.length), count = 0, sorted = true, last = -Infinity
     var values = roles.map(function () { return new Float64Array(records.length) })
-    records.forEach(function (record) {
-        var time = moment(record.date)
+    function pick(record) {
+        var part = reading(record)
+        return [record.date].concat(roles.map(function (role) { return part[role] }))
+    }
+    function take(picked) {
+        var time = moment(picked[0])
         if (time !== time)
             return
         sorted = sorted && time >= last
         last = times[count] = time
-        var part = reading(record)
         for (var k = 0; k < roles.length; ++k) {
-            var text = part[roles[k]], value = +text
+            var text = picked[k + 1], value = +text
             values[k][count] = value !== 0 && value * 0 === 0 ? value : number(text)
         }
         ++count
-    })
+    }
+    if (records.visit)
+        records.visit(pick, take)
+    else
+        records.forEach(function (record) { take(pick(record)) })
     return { times: times.subarray(0, count), sorted: sorted,
              values: values.map(function (curve) { return curve.subarray(0, count) }) }
 }

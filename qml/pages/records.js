@@ -37,11 +37,13 @@ function Records(text, starts, length, end) {
 
 var blockLength = 128
 
-// The records of a number of blocks.
-Records.prototype.blocks = function (place, count) {
+// The records of a number of blocks. With a cut those that have its form are what it leaves of them.
+Records.prototype.blocks = function (place, count, cut) {
     var last = Math.min(place + count, this.starts.length - 1)
     var part = this.text.substring(this.starts[place], this.starts[last])
-    return parsed("[" + (last < this.starts.length - 1 ? part.substring(0, part.lastIndexOf(",")) : part) + "]") || []
+    if (last < this.starts.length - 1)
+        part = part.substring(0, part.lastIndexOf(","))
+    return (cut && parsed("[" + part.replace(cut.form, cut.left) + "]")) || parsed("[" + part + "]") || []
 }
 
 Records.prototype.at = function (place) {
@@ -59,10 +61,46 @@ Records.prototype.forEach = function (visit) {
         this.blocks(place, 8).forEach(visit)
 }
 
+// Visits the array that pick(record) gives of each record; texts that are numbers may come as numbers.
+Records.prototype.visit = function (pick, visitor) {
+    var cut = cutFor(this.at(0), pick)
+    for (var place = 0; place < this.starts.length - 1; place += 8)
+        this.blocks(place, 8, cut).forEach(function (record) { visitor(Array.isArray(record) ? record : pick(record)) })
+}
+
 Records.prototype.map = function (convert) {
     var made = []
     this.forEach(function (record) { made.push(convert(record)) })
     return made
+}
+
+// How to cut a record's text down to what pick(record) takes before it is parsed, which is most of the work with a day of
+// them: form is an expression for the text of records that have the keys of this one, left stands in its place.
+function cutFor(record, pick) {
+    var token = /("(?:[^"\\]|\\.)*":)|"(?:[^"\\]|\\.)*"|[^\s",:\[\]{}]+/g, text = JSON.stringify(record), count = 0
+    // A record of the same make that has for each value its place among them tells which are picked.
+    var picked = pick(JSON.parse(text.replace(token, function (found, key) { return key || count++ })))
+    var left = picked.map(function () { return "null" }), groups = 0, form = "", end = 0
+    count = 0
+    for (var found = token.exec(text); found; found = token.exec(text)) {
+        form += text.substring(end, found.index).replace(/[\[\]{}]/g, "\\$&")
+        end = token.lastIndex
+        if (found[1]) {
+            form += found[1].replace(/[.*+?^${}()|[\]\\\/]/g, "\\$&")
+        } else if (picked.indexOf(count++) < 0) {
+            form += found[0][0] === "\"" ? "\"[^\"\\\\]*\"" : "[^\\s\",:\\[\\]{}]+"
+        } else {
+            // What is a number needs no quotes; any other text keeps them.
+            form += "(?:\"(-?(?:0|[1-9][0-9]*)(?:\\.[0-9]+)?)\"|(\"[^\"\\\\]*\"|[^\\s\",:\\[\\]{}]+))"
+            picked.forEach(function (value, place) {
+                if (value === count - 1)
+                    left[place] = "$" + (groups + 1) + "$" + (groups + 2)
+            })
+            groups += 2
+        }
+    }
+    form += text.substring(end).replace(/[\[\]{}]/g, "\\$&")
+    return groups < 98 ? { form: new RegExp(form, "g"), left: "[" + left.join(",") + "]" } : null
 }
 
 // The records of a list that begins in a text; null when they are not alike, so that the text is to be parsed as a whole.

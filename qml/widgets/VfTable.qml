@@ -39,7 +39,7 @@ C1.TableView {
 
     /// What a row says, column by column.
     function rowText(place) {
-        var row = rows[place], parts = []
+        var row = rowAt(place), parts = []
         for (var i = 0; row !== undefined && i < columnCount; ++i)
             parts.push(Texts.plain(getColumn(i).title) + " " + cellText(row, getColumn(i).role))
         return parts.join(", ")

@@ -15,13 +15,17 @@ TestCase {
 
     function flat(i) { return { date: "21/03/05,14:30:00-12", value: String(i) } }
     function tricky(i) { return { date: "]},{\"date\":\\", value: "[{\"date\":" + i } }
+    function mixed(i) { return { "a.b$(1": "x", value: ["1", "-2.5", "---", "007", "", "\"", "1e5"][i % 7], date: i, odd: null } }
     function nested(i) { return { date: i, parts: list(i % 3, flat) } }
     function uneven(i) { return i % 2 ? { date: i } : { value: i } }
     function empty(i) { return i === 200 ? null : { date: i, list: [[], [{}]] } }
 
+    function pick(record) { return [record.date, record.value, record.value, ((record.parts || [])[1] || {}).value] }
+    function texts(values) { return values.map(function (value) { return value === null ? "undefined" : String(value) }) }
+
     function test_records_data() {
         var rows = []
-        var kinds = { flat: flat, tricky: tricky, nested: nested, uneven: uneven, empty: empty }
+        var kinds = { flat: flat, tricky: tricky, mixed: mixed, nested: nested, uneven: uneven, empty: empty }
         Object.keys(kinds).forEach(function (kind) {
             [0, 1, 2, 128, 129, 1500].forEach(function (count) {
                 rows.push({ tag: kind + ", " + count, object: { deviceName: "A", logList: list(count, kinds[kind]), results: {} } })
@@ -42,6 +46,9 @@ TestCase {
                 compare(records.length, row.object.logList.length)
                 compare(JSON.stringify(records.at(records.length - 1)), JSON.stringify(row.object.logList[records.length - 1]))
                 compare(records.at(records.length), undefined)
+                var visited = []
+                records.visit(pick, function (picked) { visited.push(texts(picked)) })
+                compare(visited.join(), row.object.logList.map(function (record) { return texts(pick(record)) }).join())
                 read.logList = records.map(function (record) { return record })
             }
             compare(JSON.stringify(read), JSON.stringify(row.object))
