@@ -16,6 +16,8 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
+#include <cmath>
+
 #include <fcntl.h>
 #include <poll.h>
 #include <unistd.h>
@@ -122,8 +124,10 @@ void exchanges(const char *family, const QString &name)
             ours.push_back(elapsed(timer));
         }
     }
-    row(name + QLatin1String(": exchange of 10 records, answered at once"), medianOf(raw), medianOf(ours), "ms", "<= 1.5");
+    row(name + QLatin1String(": exchange of 10 records, answered at once"), medianOf(raw), medianOf(ours), "ms", "<= 1.3");
 }
+
+enum class Screen { Nothing, Page };
 
 /// Shows the instrument's page, with its list and its progress bar.
 void showPage(const QQmlApplicationEngine &engine, const QString &product)
@@ -138,22 +142,23 @@ void showPage(const QQmlApplicationEngine &engine, const QString &product)
         QCoreApplication::processEvents();
 }
 
-enum class Screen { Nothing, Page };
-
-/// All that a download does, from the list to the experiment; floor: the same requests by the system's own calls.
-void download(const char *family, const QString &name, int records, int delay, const char *goal,
-              Screen screen = Screen::Nothing)
+/// The same requests by the system's own calls: milliseconds.
+double rawDownload(const QString &port, int records)
 {
-    const Instrument instrument(family, records, delay);
     QElapsedTimer timer;
-    const int file = openRaw(instrument.port());
+    const int file = openRaw(port);
     timer.start();
     for (int chunk = 0; chunk < records / 10; ++chunk)
         rawExchange(file, request(chunk));
     const double raw = elapsed(timer);
     ::close(file);
+    return raw;
+}
 
-    Core core([&] { return QStringList(instrument.port()); });
+/// All that a download does, from the list to the experiment: milliseconds.
+double ownDownload(const QString &port, Screen screen)
+{
+    Core core([&] { return QStringList(port); });
     core.findDevices();
     if (core.createDevice(0) != 0 || core.findExperiments() != 0)
         qFatal("no session");
@@ -162,14 +167,30 @@ void download(const char *family, const QString &name, int records, int delay, c
         loadMainWindow(engine, core);
         showPage(engine, core.devName());
     }
-    timer.restart();
+    QElapsedTimer timer;
+    timer.start();
     if (core.createExperiment(QStringLiteral("[0]")) != 0)
         qFatal("the download failed");
     const double ours = elapsed(timer);
+    qDeleteAll(engine.rootObjects());
+    return ours;
+}
+
+/// The better of some downloads, each in turn with its floor: they mostly wait, and what else the machine does is no part
+/// of that.
+void download(const char *family, const QString &name, int records, int delay, int turns, const char *goal,
+              Screen screen = Screen::Nothing)
+{
+    const Instrument instrument(family, records, delay);
+    double raw = HUGE_VAL;
+    double ours = HUGE_VAL;
+    for (int turn = 0; turn < turns; ++turn) {
+        raw = std::min(raw, rawDownload(instrument.port(), records));
+        ours = std::min(ours, ownDownload(instrument.port(), screen));
+    }
     row(QStringLiteral("%1: download of %2 records, %3 ms per answer%4")
             .arg(name).arg(records).arg(delay).arg(QLatin1String(screen == Screen::Page ? ", page shown" : "")),
         raw, ours, "ms", goal);
-    qDeleteAll(engine.rootObjects());
 }
 
 } // namespace
@@ -182,8 +203,8 @@ int main(int argc, char **argv)
     heading();
     for (const auto &[family, name] : {std::pair{"thalvex2", "THALVEX 2"}, {"thalvex4", "THALVEX 4, 3 expansions"}}) {
         exchanges(family, QLatin1String(name));
-        download(family, QLatin1String(name), 86400, 0, "<= 2.5");
-        download(family, QLatin1String(name), 8640, 10, "<= 1.1; a tenth of a day");
-        download(family, QLatin1String(name), 8640, 10, "<= 1.1; a tenth of a day", Screen::Page);
+        download(family, QLatin1String(name), 86400, 0, 1, "<= 2.5");
+        download(family, QLatin1String(name), 2880, 10, 3, "<= 1.05; best of three");
+        download(family, QLatin1String(name), 2880, 10, 3, "<= 1.05; best of three", Screen::Page);
     }
 }
