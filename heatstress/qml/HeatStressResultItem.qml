@@ -26,9 +26,14 @@ VfFrame {
             Column {
                 visible: item.quantity[modelData.line] !== undefined
                 spacing: 2
-                VfText { text: modelData.label + " [" + Texts.shown(item.quantity.figures.unity, 12) + "]:"; color: Theme.quietText }
-                VfText {
-                    text: item.figure(modelData.line)
+                VfElidedText {
+                    width: item.width - 2 * item.padding
+                    color: Theme.quietText
+                    whole: modelData.label + " [" + Texts.shown(item.quantity.figures.unity, 12) + "]:"
+                }
+                VfElidedText {
+                    width: item.width - 2 * item.padding
+                    whole: item.figure(modelData.line)
                     font { pixelSize: item.quantity.decides ? Theme.decisiveSize : Theme.largeSize; bold: true }
                 }
             }
