@@ -4,6 +4,7 @@
 #include "heatstress/heatstressresults.h"
 #include "model/log.h"
 #include "report/csv.h"
+#include "report/texts.h"
 #include "report/timechart.h"
 #include "report/vfsubsuperscript.h"
 #include "report/vftable.h"
@@ -14,6 +15,8 @@
 #include <cmath>
 
 namespace {
+
+constexpr int longestUnit = 10; ///< characters, for five columns to stand beside each other
 
 QString localTime(const QDateTime &moment)
 {
@@ -98,7 +101,13 @@ bool HeatStressPrinter::logTableWanted() const
 
 QString HeatStressPrinter::unitSuffix(const Experiment *experiment) const
 {
-    return QLatin1String(" [") + resultsOf<HeatStressResults>(experiment).unity() + QLatin1Char(']');
+    return QLatin1Char(' ') + bracketedUnit(experiment);
+}
+
+QString HeatStressPrinter::bracketedUnit(const Experiment *experiment)
+{
+    const QString unity = resultsOf<HeatStressResults>(experiment).unity();
+    return QLatin1Char('[') + shortened(unity, longestUnit) + QLatin1Char(']');
 }
 
 QString HeatStressPrinter::nameWithUnit(Quantity quantity) const
@@ -124,7 +133,7 @@ void HeatStressPrinter::drawExperiment()
     const auto texts = [](const QString &caption, const QString &value, const QString &caption2,
                           const QString &value2) {
         const QLatin1String colon(": ");
-        return QStringList{caption + colon + value + QLatin1String("\r\n") + caption2 + colon + value2};
+        return QStringList{caption + colon + dashed(value) + QLatin1String("\r\n") + caption2 + colon + dashed(value2)};
     };
     section(tr("Experiment"), [&] {
         drawTwoColumns(texts(tr("Start time"), localTime(results.startTime()), tr("Duration"), results.duration()),
@@ -172,8 +181,7 @@ int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
 
 QList<VfSubSuperScript *> HeatStressPrinter::logTableHeader(Experiment *experiment)
 {
-    auto *unit = new VfSubSuperScript(
-        QLatin1Char('[') + resultsOf<HeatStressResults>(experiment).unity() + QLatin1Char(']'), {}, {});
+    auto *unit = new VfSubSuperScript(bracketedUnit(experiment), {}, {});
     const QString symbols[] = {tr("T"), tr("T"), tr("T"), tr("WBGT"), tr("WBGT")};
     QList<VfSubSuperScript *> heads = {new VfSubSuperScript(tr("Idx"), {}, {}),
                                        new VfSubSuperScript(tr("D/T"), {}, {})};

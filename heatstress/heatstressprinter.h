@@ -77,6 +77,8 @@ protected:
     bool m_ckbCalibration = false;
 
 private:
+    /// "[°C]", cut when it is absurdly long.
+    static QString bracketedUnit(const Experiment *experiment);
     PerQuantity<bool> tableSwitches() const;
     PerQuantity<bool> chartSwitches() const;
     double number(const Log &log, int unit, Quantity quantity) const;

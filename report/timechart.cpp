@@ -2,10 +2,12 @@
 #include "report/timechart.h"
 
 #include "report/smoothcurve.h"
+#include "report/texts.h"
 #include "report/ticks.h"
 
 #include <QCategoryAxis>
 #include <QChart>
+#include <QGraphicsLayout>
 #include <QGraphicsScene>
 #include <QLegendMarker>
 #include <QPainter>
@@ -18,6 +20,7 @@ using namespace QtCharts;
 namespace {
 
 constexpr int minute = 60 * 1000;
+constexpr int inset = 9;         ///< around a chart and its legend
 constexpr int longestTitle = 80; ///< characters
 /// Labels that find room in a plot of a report's width and of 300 pixels' height.
 constexpr int mostTimes = 7;
@@ -26,8 +29,7 @@ constexpr int mostValues = 11;
 /// \a text as it is, for what reads its texts as markup; cut when it is absurdly long.
 QString plain(const QString &text)
 {
-    const QString cut = text.size() > longestTitle ? text.left(longestTitle) + QChar(0x2026) : text;
-    return cut.toHtmlEscaped();
+    return shortened(text, longestTitle).toHtmlEscaped();
 }
 
 /// Lines below one another, in the middle.
@@ -144,6 +146,8 @@ int TimeChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal s
     auto *chart = new QChart;
     chart->setPreferredSize(size.width() * scale, size.height()); // before the scene takes the chart
     chart->setMargins(QMargins(0, 0, 0, 0));
+    for (QGraphicsLayout *layout : {chart->layout(), chart->legend()->layout()})
+        layout->setContentsMargins(inset, inset, inset, inset); // whatever the display's style has
     chart->setLocalizeNumbers(true);
     chart->setTitle(plain(m_title));
     chart->setTitleFont(m_font);

@@ -3,11 +3,11 @@
 
 #include "model/buildinfo.h"
 #include "model/experiment.h"
-#include "model/field.h"
 #include "model/filename.h"
 #include "report/dates.h"
 #include "report/fonts.h"
 #include "report/rulepen.h"
+#include "report/texts.h"
 #include "report/vffullpagetable.h"
 #include "report/vfsubsuperscript.h"
 
@@ -23,13 +23,17 @@
 #include <QUrl>
 #include <QtMath>
 
+#include <cmath>
+
 namespace {
 
 constexpr int textFlags = Qt::AlignLeft | Qt::TextWordWrap;
 constexpr int noteFlags = Qt::AlignJustify | Qt::TextWordWrap;
 constexpr int notesHeight = 100;
 constexpr int pixelsPerInch = 96;
+constexpr int longestText = 400; ///< characters
 const QSize logoSize(100, 25);
+constexpr int mostLogoPixels = 4000000;
 
 /// Wrapped between words, and within a word that is wider than its column.
 QTextOption wrapped(Qt::Alignment alignment)
@@ -88,7 +92,13 @@ void VfPrinter::setBodyFonts()
 
 int VfPrinter::beginPainting()
 {
-    return m_painter->begin(this) ? 0 : -1;
+    const QDateTime start = m_experiment ? m_experiment->dateTime().toLocalTime() : QDateTime();
+    const QStringList title{m_reportTitle, m_sn, ::dateText(start.date())};
+    setDocName(shortened(title.join(QLatin1String(", ")), longestText));
+    if (!m_painter->begin(this))
+        return -1;
+    m_painter->setRenderHint(QPainter::LosslessImageRendering);
+    return 0;
 }
 
 int VfPrinter::endPainting()
@@ -199,17 +209,21 @@ void VfPrinter::measureFooter()
 
 QSize VfPrinter::drawLogo()
 {
-    if (!m_logoEnable)
+    if (!m_logoEnable || m_logoFile.isEmpty())
         return {0, 0};
-    if (m_logo.isNull()) { // loaded once, for it stands on every page
-        const QPixmap picture(pathFromUrl(m_logoFile));
-        if (picture.isNull())
-            return {0, 0};
-        m_logo = picture.scaled(logoSize, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    if (m_logo.isNull() && m_logo.load(pathFromUrl(m_logoFile))) { // once, for it stands on every page
+        const double pixels = double(m_logo.width()) * m_logo.height();
+        if (pixels > mostLogoPixels)
+            m_logo = m_logo.scaled(m_logo.size() * std::sqrt(mostLogoPixels / pixels), Qt::KeepAspectRatio,
+                                   Qt::SmoothTransformation);
     }
+    if (m_logo.isNull())
+        return {0, 0};
+    const QSize place = m_logo.size().scaled(logoSize, Qt::KeepAspectRatio).expandedTo({1, 1});
     moveTo(0, 0);
-    m_painter->drawPixmap(0, 0, m_logo);
-    return m_logo.size() + QSize(5, 5);
+    m_painter->setRenderHint(QPainter::SmoothPixmapTransform);
+    m_painter->drawImage(QRect({0, 0}, place), m_logo);
+    return place + QSize(5, 5);
 }
 
 int VfPrinter::drawPageHeader()
@@ -220,11 +234,9 @@ int VfPrinter::drawPageHeader()
     m_painter->setFont(font);
     moveTo(logo.width(), 0);
     const QString text = m_reportTitle + QLatin1String(" @ ") + m_productName + QLatin1String(" SN: ") + m_sn;
-    QRect drawn;
-    m_painter->drawText(QRect(0, 0, windowWidth() - logo.width(), windowHeight()), Qt::AlignHCenter | Qt::TextWordWrap,
-                        text, &drawn);
+    const int height = drawWrapped(text, QRect(0, 0, windowWidth() - logo.width(), windowHeight()), Qt::AlignHCenter);
     ++m_pageNumber;
-    m_contentTop = qMax(drawn.height(), logo.height());
+    m_contentTop = qMax(height, logo.height());
     drawRule(m_contentTop);
     return m_contentTop + m_headerSpacing;
 }
@@ -308,7 +320,9 @@ void VfPrinter::drawLine(const QString &text)
 void VfPrinter::drawTwoColumns(const QStringList &left, const QStringList &right)
 {
     const int width = windowWidth() / 2 - 2 * m_hSpace;
-    m_y = qMax(drawColumn(left, m_hSpace, width), drawColumn(right, windowWidth() / 2 + m_hSpace, width));
+    const int leftEnd = drawColumn(left, m_hSpace, width); // first, as it is read
+    const int rightEnd = drawColumn(right, windowWidth() / 2 + m_hSpace, width);
+    m_y = qMax(leftEnd, rightEnd);
 }
 
 int VfPrinter::drawColumn(const QStringList &texts, int x, int width)
@@ -334,9 +348,15 @@ void VfPrinter::drawColumns(const QStringList &texts, int count)
 int VfPrinter::drawText(const QString &text, int x, int y, const QRect &bounds)
 {
     moveTo(x, y);
-    const QRectF drawn = m_painter->boundingRect(bounds, text, wrapped(Qt::AlignLeft));
-    m_painter->drawText(bounds, text, wrapped(Qt::AlignLeft));
-    return qCeil(drawn.height()) + 1 + m_painter->fontMetrics().leading();
+    return drawWrapped(text, bounds, Qt::AlignLeft) + 1 + m_painter->fontMetrics().leading();
+}
+
+int VfPrinter::drawWrapped(const QString &text, const QRect &bounds, Qt::Alignment alignment)
+{
+    const QString cut = shortened(text, longestText);
+    const QRectF drawn = m_painter->boundingRect(bounds, cut, wrapped(alignment));
+    m_painter->drawText(bounds, cut, wrapped(alignment));
+    return qCeil(drawn.height());
 }
 
 int VfPrinter::drawDate(const QDateTime &dateTime, int x, int y)
@@ -385,9 +405,7 @@ void VfPrinter::drawIdentification()
 
 QString VfPrinter::calibrationText(const Calibration &calibration) const
 {
-    const QString certificate =
-        calibration.certification.trimmed().isEmpty() ? absentText() : calibration.certification;
-    return tr("Cal. cert.") + QLatin1String(": ") + certificate + QLatin1Char(' ') +
+    return tr("Cal. cert.") + QLatin1String(": ") + dashed(calibration.certification) + QLatin1Char(' ') +
            ::dateText(calibration.date.date());
 }
 
@@ -416,15 +434,12 @@ void VfPrinter::drawSignature()
         return;
     QString text(41, QLatin1Char('_'));
     if (m_repInfoEnable)
-        text += QLatin1String("\r\n") + m_repName;
+        text += QLatin1String("\r\n") + shortened(m_repName, longestText / 2);
     if (m_repIdInfoEnable)
         text += QLatin1String("\r\n") + tr("ID") + QLatin1String(": ") + m_repIdReg;
     m_painter->setFont(m_textFont);
     moveTo(windowWidth() / 2, m_y);
-    QRect drawn;
-    m_painter->drawText(QRect(0, 0, windowWidth() / 2, windowHeight()), Qt::AlignHCenter | Qt::TextWordWrap, text,
-                        &drawn);
-    m_y += drawn.height() + 2 * m_vSpace + 1;
+    m_y += drawWrapped(text, QRect(0, 0, windowWidth() / 2, windowHeight()), Qt::AlignHCenter) + 2 * m_vSpace + 1;
     m_sectionTop = m_y;
 }
 

@@ -5,9 +5,9 @@
 #include "report/parameters.h"
 
 #include <QFont>
+#include <QImage>
 #include <QObject>
 #include <QPainter>
-#include <QPixmap>
 #include <QPrinter>
 
 #include <functional>
@@ -116,7 +116,8 @@ protected:
     void drawTwoColumns(const QStringList &left, const QStringList &right);
     /// Texts side by side in \a count columns of the same width, from the left.
     void drawColumns(const QStringList &texts, int count);
-    /// Draws \a text at (\a x, \a y), wrapped in the width of \a bounds. Returns its height.
+    /// Draws \a text at (\a x, \a y), wrapped in the width of \a bounds; an absurdly long one is cut. Returns its
+    /// height.
     int drawText(const QString &text, int x, int y, const QRect &bounds);
     /// "Date: " and the local date of \a dateTime. Returns its height.
     int drawDate(const QDateTime &dateTime, int x, int y);
@@ -207,10 +208,12 @@ private:
     int footHeight() const;
     /// Draws the logo at the corner: the place it takes, empty without one.
     QSize drawLogo();
+    /// Draws \a text at the painter's origin, wrapped in \a bounds; an absurdly long one is cut. Returns its height.
+    int drawWrapped(const QString &text, const QRect &bounds, Qt::Alignment alignment);
     int drawColumn(const QStringList &texts, int x, int width);
     QString dateText(const QDateTime &dateTime) const;
 
-    QPixmap m_logo;
+    QImage m_logo;
     int m_footerPage = 0; ///< page whose foot is drawn
     bool m_filesComplete = true;
 };

@@ -2,8 +2,15 @@
 #include "report/vfsubsuperscript.h"
 
 #include "report/fonts.h"
+#include "report/texts.h"
 
 #include <QPainter>
+
+namespace {
+
+constexpr int longestPiece = 100; ///< characters
+
+} // namespace
 
 VfSubSuperScript::VfSubSuperScript() : m_smallFont(ReportFont::mono(5)), m_font(ReportFont::mono(8)) {}
 
@@ -11,27 +18,27 @@ VfSubSuperScript::VfSubSuperScript(const QString &text, const QString &subscript
                                    VfSubSuperScript *next)
     : VfSubSuperScript()
 {
-    m_text = text;
-    m_subscript = subscript;
-    m_superscript = superscript;
+    m_text = shortened(text, longestPiece);
+    m_subscript = shortened(subscript, longestPiece);
+    m_superscript = shortened(superscript, longestPiece);
     m_next = next;
 }
 
 void VfSubSuperScript::setText(const QString &text)
 {
-    m_text = text;
+    m_text = shortened(text, longestPiece);
     m_placed.reset();
 }
 
 void VfSubSuperScript::setSubscript(const QString &subscript)
 {
-    m_subscript = subscript;
+    m_subscript = shortened(subscript, longestPiece);
     m_placed.reset();
 }
 
 void VfSubSuperScript::setSuperscript(const QString &superscript)
 {
-    m_superscript = superscript;
+    m_superscript = shortened(superscript, longestPiece);
     m_placed.reset();
 }
 

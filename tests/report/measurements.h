@@ -13,7 +13,7 @@ struct Course {
     int samples = 60;
     QDateTime start{QDate(2019, 10, 9), QTime(9, 37, 1), Qt::OffsetFromUTC, -3 * 3600};
     int interval = 60; ///< seconds
-    char unit = 'C';
+    QByteArray unit = "C";
     QByteArray text = {}; ///< in place of each value, when not empty
     int expansions = 0;
 };

@@ -45,15 +45,34 @@ PrintedReport::PrintedReport(VfPrinter *printer, Experiment *first, QJsonObject 
 
 int PrintedReport::pages() const
 {
-    const QString info = QString::fromUtf8(outputOf(QStringLiteral("pdfinfo"), {m_path}));
-    return QRegularExpression(QStringLiteral("Pages:\\s+(\\d+)")).match(info).captured(1).toInt();
+    return info(QStringLiteral("Pages")).toInt();
 }
 
-QString PrintedReport::text(int page) const
+QString PrintedReport::info(const QString &key) const
+{
+    const QString text = QString::fromUtf8(outputOf(QStringLiteral("pdfinfo"), {m_path}));
+    const QRegularExpression line(key + QLatin1String(":\\s+(.*)"));
+    return line.match(text).captured(1);
+}
+
+QStringList PrintedReport::pictures() const
+{
+    const QStringList lines =
+        QString::fromUtf8(outputOf(QStringLiteral("pdfimages"), {QStringLiteral("-list"), m_path}))
+            .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    QStringList pictures;
+    for (const QString &line : lines.mid(2)) {
+        const QStringList cells = line.simplified().split(QLatin1Char(' '));
+        const QString encoding = cells[8] == QLatin1String("image") ? QStringLiteral("lossless") : cells[8];
+        pictures.append(QStringLiteral("%1 x %2 %3").arg(cells[3], cells[4], encoding));
+    }
+    return pictures;
+}
+
+QString PrintedReport::text(int page, const QString &order) const
 {
     return QString::fromUtf8(
-        outputOf(QStringLiteral("pdftotext"),
-                 pageArguments(page) + QStringList{QStringLiteral("-layout"), m_path, QStringLiteral("-")}));
+        outputOf(QStringLiteral("pdftotext"), pageArguments(page) + QStringList{order, m_path, QStringLiteral("-")}));
 }
 
 QVector<PrintedReport::Word> PrintedReport::words(int page) const

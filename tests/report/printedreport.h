@@ -25,8 +25,12 @@ public:
     int result() const { return m_result; }
     QString path() const { return m_path; }
     int pages() const;
-    /// Text of page \a page (from 1), or of all pages (0), as it stands on the page.
-    QString text(int page = 0) const;
+    /// Text of page \a page (from 1), or of all pages (0), as it stands on the page, or "-raw": as it was drawn.
+    QString text(int page = 0, const QString &order = QStringLiteral("-layout")) const;
+    /// What the document says of itself under \a key.
+    QString info(const QString &key) const;
+    /// "400 x 300 lossless" for each picture on each page.
+    QStringList pictures() const;
     QVector<Word> words(int page) const;
     /// The first word \a text of page \a page; a null box when there is none.
     QRectF box(const QString &text, int page = 1) const;

@@ -36,6 +36,7 @@ public:
         drawIdentification();
         section(QStringLiteral("Body"), [this] {
             drawColumns({QStringLiteral("first"), QStringLiteral("second"), QStringLiteral("third")}, 3);
+            drawLine(calibrationText(m_calibration));
             m_y += drawCaptionedValue(QStringLiteral("Caption"), QStringLiteral("Value"), m_hSpace, m_y,
                                       QRect(0, 0, 100, 100));
         });
@@ -242,8 +243,10 @@ void TestReportEngine::bareFirstPage()
     const PrintedReport printed(&report, experiment.get(), {});
     const QString text = printed.text();
     QVERIFY(text.contains(QLatin1String("Shared Report @ THALVEX 2 SN: T2-00123")));
-    QVERIFY(
-        text.contains(QLatin1String("Date: ") + QLocale::system().toString(QDate(2019, 10, 9), QLocale::ShortFormat)));
+    const QString day = QLocale::system().language() == QLocale::German ? "09.10.2019" : "9 Oct 2019";
+    QVERIFY(text.contains("Date: " + day));
+    QVERIFY(text.contains("Cal. cert.: --- ---"));
+    QCOMPARE(printed.info("Title"), "Shared Report, T2-00123, " + day);
     for (const char *absent :
          {"Company evaluated", "Site/Area", "Valuation company", "Collected by", "Notes", "ID", "___"})
         QVERIFY2(!text.contains(QLatin1String(absent)), absent);
@@ -272,6 +275,7 @@ void TestReportEngine::logo()
     // 25 by 25 pixels at the corner of the margins; content below it
     const QImage page = printed.image(1, 96);
     const int left = qRound(30 / 25.4 * 96);
+    QCOMPARE(printed.pictures(), QStringList{"400 x 400 lossless"});
     QVERIFY(qGray(page.pixel(left + 12, left + 12)) < 50);
     QVERIFY(qGray(page.pixel(left + 28, left + 12)) > 200);
     QVERIFY(printed.box(QStringLiteral("Date:")).top() > 33);
@@ -352,21 +356,25 @@ void TestReportEngine::longTextsKeepApart()
                     QStringLiteral("ownCompanyInfoEnable"), QStringLiteral("collectorInfoEnable"),
                     QStringLiteral("obsEnable"), QStringLiteral("repInfoEnable"), QStringLiteral("repIdInfoEnable")});
     const QString words = QStringLiteral("Companhia de Fundição e Laminação ").repeated(6);
-    for (const char *key : {"cmpnyName", "ownCompany", "collectorName", "repName", "repIdReg"})
+    for (const char *key : {"cmpnyName", "ownCompany", "collectorName"})
         choices.insert(QLatin1String(key), words);
-    choices.insert(QStringLiteral("siteName"), QString(150, QLatin1Char('W'))); // a word that is wider than its column
+    for (const char *key : {"siteName", "repName"})
+        choices.insert(QLatin1String(key), QString(150, QLatin1Char('W'))); // a word that is wider than its column
+    choices.insert(QStringLiteral("repIdReg"), QString(100000, QLatin1Char('X')));
     choices.insert(QStringLiteral("obsText"), words + words);
     SharedReport report;
     report.setSn(QString(60, QLatin1Char('7')));
     const PrintedReport printed(&report, experiment.get(), choices);
     const QVector<PrintedReport::Word> all = printed.words(1);
     QCOMPARE(overlaps(all), QStringList());
+    const QString inOrder = printed.text(1, "-raw");
+    QVERIFY(inOrder.indexOf("Site/Area") < inOrder.indexOf("Valuation company")); // as it is copied and read aloud
     int letters = 0;
     for (const PrintedReport::Word &word : all) {
         QVERIFY2(word.box.left() > -2 && word.box.right() < 606 && word.box.bottom() < 940, qPrintable(word.text));
         letters += word.text.count(QLatin1Char('W'));
     }
-    QCOMPARE(letters, 150); // none is cut off
+    QCOMPARE(letters, 300); // none is cut off
 }
 
 void TestReportEngine::pagesOfAChain()

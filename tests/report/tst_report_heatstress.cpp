@@ -119,6 +119,8 @@ private slots:
     void nothingMeasured();
     void sampleTexts_data();
     void sampleTexts();
+    void absurdUnit_data() { wholeReport_data(); }
+    void absurdUnit();
     void reducedCurve();
     void evenedCurve_data();
     void evenedCurve();
@@ -501,6 +503,19 @@ void TestReportHeatStress::sampleTexts()
     const Printed printed(family(0), experiment.get(), {"ckbCsv"});
     const QByteArray line = printed.report.csv().split('\n').value(1);
     QCOMPARE(line, "\"09:37:01\"" + QByteArray(";\"" + written + '"').repeated(5) + '\r');
+}
+
+void TestReportHeatStress::absurdUnit()
+{
+    QFETCH(int, index);
+    Course course;
+    course.unit = "<i>" + QByteArray(100000, 'u');
+    const ExperimentChain experiment = family(index).measure(course);
+    const Printed printed(family(index), experiment.get(), tableKeys + chartKeys + family(index).own);
+    QCOMPARE(printed.report.pages(), 3 + index); // with its table
+    const QString text = printed.report.text();
+    QVERIFY(text.count(QString::fromUtf8("[°<i>uuuuu…]")) > 5);
+    QVERIFY(!text.contains("uuuuuu"));
 }
 
 void TestReportHeatStress::reducedCurve()
