@@ -242,7 +242,8 @@ Item {
                     { tag: "not written", save: -1, calls: "createExperiment saveExperimentToFile", dialog: "" },
                     { tag: "error", code: -1, calls: "createExperiment", dialog: "downloadFailDialog" },
                     { tag: "busy", code: -2, calls: "createExperiment", dialog: "deviceBusyDialog" },
-                    { tag: "disconnected", code: -3, calls: "createExperiment", dialog: "devDisconnectedDialog" }]
+                    { tag: "disconnected", code: -3, calls: "createExperiment", dialog: "devDisconnectedDialog" },
+                    { tag: "overtaken", code: -4, calls: "createExperiment", dialog: "" }]
         }
 
         function test_download(row) {
