@@ -18,7 +18,10 @@ QtObject {
 
         title: question.title
         width: 460
+        // Grows with its words, also when it is asked again; hence no fixed height.
         height: Math.max(150, words.implicitHeight + answers.height + 3 * Theme.margin)
+        minimumHeight: 150
+        maximumHeight: 1000
         onActiveChanged: {
             if (!active)
                 return
