@@ -17,7 +17,7 @@ const QByteArray query = "AT+VFUNIT?\r\n";
 const QByteArray answer = "\r\n+VFUNIT: \"C\"\r\n\r\nOK\r\n";
 
 struct Link {
-    Link() : instrument(simulatedThalvex2(1, {}))
+    Link() : instrument(simulatedThalvex2())
     {
         instrument.inside().setEcho(false);
         iface.setPortName(instrument.portName());
@@ -107,6 +107,15 @@ private slots:
         });
         busy.start(0);
         QCOMPARE(link.ask(), answer);
+    }
+
+    /// 2 MB through a buffer of a few KB.
+    void longAnswersComeWhole()
+    {
+        const QByteArray records = "AT+VFRDXP=5,1,28800\r\n";
+        Link link;
+        QCOMPARE(link.iface.open(), 0);
+        QCOMPARE(link.ask(records), link.instrument.inside().answer(records));
     }
 
     /// What comes too late stands at the head of the next answer.

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "app/fonts.h"
-#include "report/fonts.h"
-#include "report/pagecount.h"
 #include "report/vffullpagetable.h"
 #include "report/vfnormaltable.h"
 #include "report/vfsubsuperscript.h"
@@ -120,37 +118,15 @@ class TestReportTables : public QObject
 private slots:
     void initTestCase() { loadApplicationFonts(); }
 
-    void rowFits_data();
-    void rowFits();
     void blocksFillThePage();
     void lastRowMayTouchTheMargin();
     void newDayNeedsTwoLinesAndTakesOne();
     void narrowRows();
     void unanswered();
-    void headsMustMatch();
     void sameAsPlainDrawing();
     void normalTable();
     void piecesOfALine();
-    void fontsOfIndexes();
 };
-
-void TestReportTables::rowFits_data()
-{
-    QTest::addColumn<int>("cursor");
-    QTest::addColumn<bool>("newDay");
-    QTest::addColumn<bool>("fits");
-    QTest::newRow("exactly") << 907 << false << true;
-    QTest::newRow("a pixel too low") << 908 << false << false;
-    QTest::newRow("a new day, exactly") << 892 << true << true;
-    QTest::newRow("a new day, a pixel too low") << 893 << true << false;
-}
-
-void TestReportTables::rowFits()
-{
-    QFETCH(int, cursor);
-    QFETCH(bool, newDay);
-    QTEST(PageCount::rowFits(cursor, 12, 15, newDay, 934), "fits");
-}
 
 void TestReportTables::blocksFillThePage()
 {
@@ -244,21 +220,6 @@ void TestReportTables::unanswered()
     QVERIFY(table.rows.size() < 2000);
 }
 
-void TestReportTables::headsMustMatch()
-{
-    Paper paper;
-    const auto head = [] { return new VfSubSuperScript(QStringLiteral("A long head"), {}, {}); };
-    VfFullPageTable table(paper.painter());
-    table.setRows(numbered(2));
-    const int width = table.totalWidth();
-    table.setHeader({head(), head()});
-    QCOMPARE(table.headerHeight(), 8);
-    QCOMPARE(table.totalWidth(), width);
-    table.setHeader({head()});
-    QVERIFY(table.headerHeight() > 8);
-    QVERIFY(table.totalWidth() > width);
-}
-
 void TestReportTables::sameAsPlainDrawing()
 {
     QTemporaryDir folder;
@@ -319,19 +280,6 @@ void TestReportTables::piecesOfALine()
     QCOMPARE(empty.height(painter), 0);
     QCOMPARE(empty.draw(painter), 0);
     QCOMPARE(empty.draw(0, 0, 99, 19, painter), 0);
-}
-
-void TestReportTables::fontsOfIndexes()
-{
-    VfSubSuperScript piece(QStringLiteral("T"), QStringLiteral("Dry"), {});
-    QCOMPARE(piece.font().pixelSize(), 8);
-    QCOMPARE(piece.smallFont().pixelSize(), 5);
-    piece.setFont(ReportFont::sans(5));
-    QCOMPARE(piece.font().pixelSize(), 8);
-    piece.setFont(ReportFont::sans(6));
-    QCOMPARE(piece.font().pixelSize(), 6);
-    QCOMPARE(piece.smallFont().pixelSize(), 3);
-    QCOMPARE(piece.smallFont().family(), QStringLiteral("FreeSans"));
 }
 
 QTEST_MAIN(TestReportTables)

@@ -213,62 +213,12 @@ private slots:
         QCOMPARE(spectrum.size(), qMax(1, bands));
     }
 
+    /// Fixed, so that a file stored beside the tests stays what the instrument sends.
     void sameSeedSameValues()
     {
-        const auto read = [](quint32 seed) { return simulatedThalvex2(seed)->answer("AT+VFRDXP=5,1,500\r\n"); };
-        QVERIFY(read(3).size() > 500 * 60);
-        QCOMPARE(read(3), read(3));
-        QVERIFY(read(3) != read(4));
-        const SimulatedExperiment day{86400, 1, "28/02/28,12:00:00+00"};
-        const QByteArray last = simulatedThalvex2(1, {day})->answer("AT+VFRDXP=1,86400,86400\r\n");
-        QVERIFY(last.contains("1,86400,0,\"28/02/29\",\"11:59:59+00\""));
-        // Fixed, so that a file stored beside the tests stays what the instrument sends.
         QCOMPARE(simulatedThalvex2(1)->answer("AT+VFRDXP=3,300,300\r\n"),
                  QByteArray("\r\n+VFRDXP: 3,300,0,\"26/03/10\",\"13:29:00-12\",24.4,31.5,41.5,29.5,28.5\r\n"
                             "\r\nOK\r\n"));
-    }
-
-    void expansionsFillBlocks_data()
-    {
-        QTest::addColumn<int>("expansions");
-        QTest::addColumn<int>("gap");
-        QTest::addColumn<QVector<bool>>("present");
-        using Blocks = QVector<bool>;
-        QTest::newRow("none") << 0 << 0 << Blocks{true, false, false, false};
-        QTest::newRow("one") << 1 << 0 << Blocks{true, true, false, false};
-        QTest::newRow("three") << 3 << 0 << Blocks{true, true, true, true};
-        QTest::newRow("three, the first fell silent") << 3 << 1 << Blocks{true, false, true, true};
-        QTest::newRow("more than there are") << 9 << 0 << Blocks{true, true, true, true};
-    }
-
-    void expansionsFillBlocks()
-    {
-        QFETCH(int, expansions);
-        QFETCH(int, gap);
-        QFETCH(QVector<bool>, present);
-        const auto instrument = simulatedThalvex4(1, expansions, workingDays(), gap);
-        const QByteArrayList record = lines(*instrument, "AT+VFRDXP=2,3,3").first();
-        QCOMPARE(record.size(), 37);
-        const auto filled = [&present](const QByteArrayList &fields, int first, int width) {
-            for (int i = 0; i < 4 * width; ++i)
-                QCOMPARE(!fields.at(first + i).isEmpty(), present[i / width]);
-        };
-        filled(record, 5, 8);
-        filled(header(*instrument, 3, 2), 2, 2);
-        filled(header(*instrument, 4, 2), 2, 6);
-
-        const int count = qMin(expansions, 3);
-        const QByteArrayList boards = header(*instrument, 2, 2);
-        QCOMPARE(boards.at(2).toInt(), count);
-        QCOMPARE(boards.size(), 3 + 4 * count);
-        QSet<QByteArray> serials;
-        for (int i = 0; i < count; ++i) {
-            serials.insert(boards.at(3 + 4 * i));
-            QVERIFY(WireDate::fromText(boards.at(5 + 4 * i) + ',' + boards.at(6 + 4 * i)));
-        }
-        QCOMPARE(serials.size(), count);
-        QCOMPARE(lines(*instrument, "AT+VFXPLST").at(2).at(5), QByteArray("Fundi\xE7\xE3o turno da manh\xE3"));
-        QCOMPARE(lines(*instrument, "AT+VFXPLST").at(3).size(), 6); // without a name, but with its field
     }
 
 private:
