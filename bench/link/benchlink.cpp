@@ -150,6 +150,8 @@ double rawDownload(const QString &port, int records)
     timer.start();
     for (int chunk = 0; chunk < records / 10; ++chunk)
         rawExchange(file, request(chunk));
+    for (int header = 0; header < 5; ++header) // as many as the experiment has behind its records
+        rawExchange(file, "AT+VFXPHDR=8,1\r\n");
     const double raw = elapsed(timer);
     ::close(file);
     return raw;
