@@ -85,16 +85,26 @@ QVector<QPointF> TimeChart::reduced(const QVector<QPointF> &points, int columns)
     const qint64 count = points.size();
     if (count <= 2 * columns)
         return points;
+    const double usual = (points.last().x() - points.first().x()) / columns;
     QVector<QPointF> kept;
     kept.reserve(2 * columns);
     for (int column = 0; column < columns; ++column) {
         const auto from = points.cbegin() + column * count / columns;
         const auto to = points.cbegin() + (column + 1) * count / columns;
+        const auto earlier = [](const QPointF &a, const QPointF &b) { return a.x() < b.x(); };
         const auto below = [](const QPointF &a, const QPointF &b) { return a.y() < b.y(); };
         const auto [lowest, highest] = std::minmax_element(from, to, below);
-        kept.append(*std::min(lowest, highest));
+        QPointF first = *std::min(lowest, highest);
+        QPointF second = *std::max(lowest, highest);
+        const double begin = from->x();
+        const double width = (to == points.cend() ? points.last().x() : to->x()) - begin;
+        if (width > 0 && width < 1.5 * usual && std::is_sorted(from, to, earlier)) {
+            first.setX(begin + width / 4);
+            second.setX(begin + width * 3 / 4);
+        }
+        kept.append(first);
         if (lowest != highest)
-            kept.append(*std::max(lowest, highest));
+            kept.append(second);
     }
     return kept;
 }
