@@ -3,48 +3,22 @@
 
 #include "heatstress/heatstressresults.h"
 #include "model/log.h"
+#include "report/chartscene.h"
 #include "report/csv.h"
 #include "report/texts.h"
 #include "report/timechart.h"
+#include "report/values.h"
 #include "report/vfsubsuperscript.h"
 #include "report/vftable.h"
 
 #include <QLocale>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 
 constexpr int longestUnit = 10; ///< characters, for five columns to stand beside each other
-
-QString localTime(const QDateTime &moment)
-{
-    return moment.toLocalTime().toString(QStringLiteral("hh:mm:ss"));
-}
-
-/// The number that \a text says; 0 when it says none ("---"). Instruments write short decimals, which are read here as
-/// exactly as QString::toDouble() does and many times faster; it reads the rest.
-double numberOf(const QString &text)
-{
-    constexpr double powers[] = {1, 10, 100, 1000, 10000, 100000, 1000000};
-    const bool negative = text.startsWith(QLatin1Char('-'));
-    qint64 digits = 0;
-    int decimals = -1; // before the point
-    bool plain = text.size() > int(negative) && text.size() < 15;
-    for (int i = negative; plain && i < text.size(); ++i) {
-        const ushort c = text[i].unicode();
-        const bool point = c == '.' && decimals < 0;
-        plain = point || (c >= '0' && c <= '9' && decimals < 6);
-        if (!point)
-            digits = 10 * digits + (c - '0');
-        decimals += point || decimals >= 0;
-    }
-    if (plain && text.back() != QLatin1Char('.') && text[int(negative)] != QLatin1Char('.'))
-        return (negative ? -1 : 1) * double(digits) / powers[std::max(decimals, 0)];
-    const double value = text.toDouble();
-    return std::isfinite(value) ? value : 0;
-}
+constexpr int ChartHeight = 300;
 
 bool anyOf(const std::array<bool, 5> &switches)
 {
@@ -144,20 +118,21 @@ void HeatStressPrinter::drawExperiment()
 void HeatStressPrinter::drawChartSection(int unit)
 {
     if (m_ckbChart && anyOf(chartSwitches()))
-        section(tr("Chart"), [&] { m_y += drawChart(m_hSpace, m_y, 1.0F, unit); });
+        section(tr("Chart"), [&] { drawChart(unit); });
 }
 
-int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
+void HeatStressPrinter::drawChart(int unit)
 {
+    TimeChart chart(m_chartFont);
+    if (isRehearsing())
+        return placeChart(chart, ChartHeight);
     const QString temperature = QStringLiteral("T<sub>%1</sub>");
     const QString index = QStringLiteral("WBGT<sub>%1</sub>");
     const PerQuantity<QString> names = {temperature.arg(tr("Dry")), temperature.arg(tr("Wet")),
                                         temperature.arg(tr("Globe")), index.arg(tr("i")), index.arg(tr("o"))};
-    TimeChart chart(m_chartFont);
     chart.setTitle(tr("Temperature x Time"));
     chart.setTimeTitle(tr("Time", "X axis label"));
-    // Charts take titles for markup, which a unit never is.
-    chart.setValueTitle(tr("Temperature") + unitSuffix(m_experiment).left(40).toHtmlEscaped());
+    chart.setValueTitle(ChartScene::plain(tr("Temperature") + unitSuffix(m_experiment)));
     const QList<Log *> logs = m_experiment->logs();
     const PerQuantity<bool> on = chartSwitches();
     PerQuantity<QVector<QPointF>> points;
@@ -174,7 +149,7 @@ int HeatStressPrinter::drawChart(int x, int y, float scale, int unit)
         if (on[quantity])
             chart.addCurve(names[quantity], points[quantity]);
     }
-    return chart.draw(m_painter.get(), x, y, QSizeF(windowWidth() + 1 - 2 * m_hSpace, 300), double(scale));
+    placeChart(chart, ChartHeight);
 }
 
 // ---------------------------------------------------------------- log table
@@ -196,20 +171,15 @@ QList<VfSubSuperScript *> HeatStressPrinter::logTableHeader(Experiment *experime
 
 QList<VfTableRow *> HeatStressPrinter::logTableRowsOf(const Experiment *experiment, int unit) const
 {
-    QList<VfTableRow *> rows;
-    const QList<Log *> logs = experiment->logs();
     const PerQuantity<bool> on = tableSwitches();
-    rows.reserve(logs.size());
-    for (const Log *log : logs) {
-        QStringList cells{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
-                          localTime(log->registerDate())};
+    return logRows(experiment, [&](const Log &log) {
+        QStringList cells;
         for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
             if (on[quantity])
-                cells.append(numberText(*log, unit, quantity));
+                cells.append(numberText(log, unit, quantity));
         }
-        rows.append(new VfTableRow(cells, log->registerDate().date()));
-    }
-    return rows;
+        return cells;
+    });
 }
 
 VfTable *HeatStressPrinter::createLogTable(Experiment *experiment, int unit)
@@ -217,9 +187,11 @@ VfTable *HeatStressPrinter::createLogTable(Experiment *experiment, int unit)
     return makeLogTable(logTableRowsOf(experiment, unit), logTableHeader(experiment));
 }
 
-void HeatStressPrinter::drawLogTable(int unit)
+std::function<VfTable *()> HeatStressPrinter::logTable(int unit)
 {
-    drawLogTable(std::unique_ptr<VfTable>(createLogTable(m_experiment, unit)));
+    if (!logTableWanted())
+        return {};
+    return [this, unit] { return createLogTable(m_experiment, unit); };
 }
 
 // ---------------------------------------------------------------- CSV

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "model/experiment.h"
-#include "report/vfprinter.h"
+#include "report/partedprinter.h"
 
 #include <array>
 
@@ -11,7 +11,7 @@ class Log;
 
 /// What the reports of the heat-stress meters share: the data of a measurement, the chart and the log table of a unit's
 /// five values, and the lines of the CSV file. A family says how its values are named and where they are.
-class HeatStressPrinter : public VfPrinter
+class HeatStressPrinter : public PartedPrinter
 {
     Q_OBJECT
 
@@ -52,9 +52,9 @@ protected:
     void drawExperiment();
     /// Only with its switch and a curve.
     void drawChartSection(int unit = 0);
-    int drawChart(int x, int y, float scale, int unit);
-    using VfPrinter::drawLogTable;
-    void drawLogTable(int unit);
+    void drawChart(int unit);
+    /// What makes the log table of \a unit; nothing when it is not wanted.
+    std::function<VfTable *()> logTable(int unit);
     using VfPrinter::createLogTable;
     VfTable *createLogTable(Experiment *experiment, int unit);
     QList<VfTableRow *> logTableRowsOf(const Experiment *experiment, int unit) const;

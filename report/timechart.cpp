@@ -1,36 +1,27 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/timechart.h"
 
+#include "report/chartscene.h"
 #include "report/smoothcurve.h"
-#include "report/texts.h"
 #include "report/ticks.h"
 
 #include <QCategoryAxis>
 #include <QChart>
-#include <QGraphicsLayout>
-#include <QGraphicsScene>
 #include <QLegendMarker>
-#include <QPainter>
+#include <QLineSeries>
 #include <QSplineSeries>
 
 #include <algorithm>
+#include <cmath>
 
 using namespace QtCharts;
 
 namespace {
 
 constexpr int minute = 60 * 1000;
-constexpr int inset = 9;         ///< around a chart and its legend
-constexpr int longestTitle = 80; ///< characters
-/// Labels that find room in a plot of a report's width and of 300 pixels' height.
-constexpr int mostTimes = 7;
-constexpr int mostValues = 11;
-
-/// \a text as it is, for what reads its texts as markup; cut when it is absurdly long.
-QString plain(const QString &text)
-{
-    return shortened(text, longestTitle).toHtmlEscaped();
-}
+constexpr int mostTimes = 7;       ///< labels that find room across a report
+constexpr int besideThePlot = 85;  ///< pixels of a chart's height for titles and labels
+constexpr int heightOfAValue = 19; ///< pixels
 
 /// Lines below one another, in the middle.
 QString label(const Tick &tick)
@@ -44,14 +35,10 @@ QString label(const Tick &tick)
                : tick.label.toHtmlEscaped();
 }
 
-void addAxis(QChart *chart, const QVector<Tick> &ticks, double lowest, double highest, Qt::Alignment side,
-             const QString &title, const QFont &font)
+QCategoryAxis *axisOf(const QVector<Tick> &ticks, double lowest, double highest)
 {
     auto *axis = new QCategoryAxis;
     axis->setLabelsPosition(QCategoryAxis::AxisLabelsPositionOnValue);
-    axis->setTitleText(plain(title));
-    axis->setTitleFont(font);
-    axis->setLabelsFont(font);
     axis->setStartValue(lowest);
     QString different(QLatin1String("<i></i>")); // the axis refuses a second label of the same text
     for (const Tick &tick : ticks) {
@@ -61,10 +48,7 @@ void addAxis(QChart *chart, const QVector<Tick> &ticks, double lowest, double hi
     if (ticks.isEmpty()) // without labels it would not place its title
         axis->append(different, highest);
     axis->setRange(lowest, highest);
-    chart->addAxis(axis, side);
-    const auto curves = chart->series();
-    for (QAbstractSeries *curve : curves)
-        curve->attachAxis(axis);
+    return axis;
 }
 
 } // namespace
@@ -111,9 +95,11 @@ QVector<QPointF> TimeChart::reduced(const QVector<QPointF> &points, int columns)
 
 void TimeChart::addCurves(QChart *chart) const
 {
-    QVector<QSplineSeries *> firsts;
+    const bool smooth = m_look.curves == Curves::Smooth;
+    const auto newSeries = [smooth]() -> QLineSeries * { return smooth ? new QSplineSeries : new QLineSeries; };
+    QVector<QLineSeries *> firsts;
     for (const Curve &curve : m_curves) { // the first pieces first: the chart gives each curve a colour of its own
-        auto *series = new QSplineSeries;
+        auto *series = newSeries();
         series->setName(curve.name);
         chart->addSeries(series);
         firsts.append(series);
@@ -121,14 +107,14 @@ void TimeChart::addCurves(QChart *chart) const
     for (int i = 0; i < m_curves.size(); ++i) {
         const QPen pen = firsts[i]->pen();
         for (const QVector<QPointF> &piece : m_curves[i].pieces) {
-            QSplineSeries *series = firsts[i];
+            QLineSeries *series = firsts[i];
             if (&piece != &m_curves[i].pieces.first()) {
-                series = new QSplineSeries;
+                series = newSeries();
                 chart->addSeries(series);
                 chart->legend()->markers(series).first()->setVisible(false);
                 series->setPen(pen);
             }
-            series->replace(SmoothCurve::evened(piece));
+            series->replace(smooth ? SmoothCurve::evened(piece) : piece);
             if (piece.size() == 1) {
                 series->setPointsVisible(true);
                 series->setPen(QPen(pen.brush(), 4, Qt::SolidLine, Qt::RoundCap));
@@ -137,37 +123,29 @@ void TimeChart::addCurves(QChart *chart) const
     }
 }
 
-void TimeChart::addAxes(QChart *chart) const
+void TimeChart::addAxes(const ChartScene &scene, qreal height) const
 {
-    const double lowest = std::min(m_lowest, m_highest) - 1;
-    const double highest = std::max(m_lowest, m_highest) + 1;
-    addAxis(chart, Ticks::values(lowest, highest, mostValues), lowest, highest, Qt::AlignLeft, m_valueTitle, m_font);
+    const int mostValues = qMax(3, int(height - besideThePlot) / heightOfAValue);
+    const bool tenth = m_look.beyond == Beyond::Tenth;
+    double lowest = std::min(m_lowest, m_highest);
+    double highest = std::max(m_lowest, m_highest);
+    lowest -= tenth ? std::abs(lowest) / 10 : 1;
+    highest += tenth ? std::abs(highest) / 10 : 1;
+    scene.addAxis(axisOf(Ticks::values(lowest, highest, mostValues), lowest, highest), Qt::AlignLeft, m_valueTitle, m_font);
     const bool empty = m_begin > m_end;
     const double begin = empty ? 0 : m_begin - (m_begin == m_end ? minute : 0);
     const double end = empty ? 1 : m_end + (m_begin == m_end ? minute : 0);
     // the last label stands within the chart
     const QVector<Tick> times = empty ? QVector<Tick>() : Ticks::times(begin, end - (end - begin) / 28, mostTimes);
-    addAxis(chart, times, begin, end, Qt::AlignBottom, m_timeTitle, m_font);
+    scene.addAxis(axisOf(times, begin, end), Qt::AlignBottom, m_timeTitle, m_font);
 }
 
 int TimeChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal scale) const
 {
-    QGraphicsScene scene(QRectF(QPointF(0, 0), size));
-    auto *chart = new QChart;
-    chart->setPreferredSize(size.width() * scale, size.height()); // before the scene takes the chart
-    chart->setMargins(QMargins(0, 0, 0, 0));
-    for (QGraphicsLayout *layout : {chart->layout(), chart->legend()->layout()})
-        layout->setContentsMargins(inset, inset, inset, inset); // whatever the display's style has
-    chart->setLocalizeNumbers(true);
-    chart->setTitle(plain(m_title));
-    chart->setTitleFont(m_font);
-    addCurves(chart);
-    chart->legend()->setFont(m_font);
-    addAxes(chart);
-    scene.addItem(chart);
-
-    painter->resetTransform();
-    painter->translate(x, y);
-    scene.render(painter, QRectF(QPointF(0, 0), size), scene.sceneRect(), Qt::KeepAspectRatio);
-    return qRound(scene.height());
+    ChartScene scene(size, scale, m_title, m_font);
+    addCurves(scene.chart());
+    scene.chart()->legend()->setFont(m_font);
+    scene.chart()->legend()->setVisible(m_look.legend);
+    addAxes(scene, size.height());
+    return scene.render(painter, x, y);
 }

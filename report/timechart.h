@@ -9,17 +9,29 @@
 
 #include <limits>
 
+class ChartScene;
 class QPainter;
 namespace QtCharts {
 class QChart;
 }
 
-/// Values over time as smooth curves, on paper. Needs an application with widgets, but no window.
+/// Values over time, on paper. Needs an application with widgets, but no window.
 class TimeChart
 {
 public:
+    enum class Curves { Smooth, Lines };
+    /// What the axis of values holds beyond the lowest and the highest: one, or a tenth of each.
+    enum class Beyond { One, Tenth };
+    struct Look {
+        Curves curves = Curves::Smooth;
+        Beyond beyond = Beyond::One;
+        bool legend = true;
+    };
+
     explicit TimeChart(const QFont &font) : m_font(font) {}
 
+    void setLook(const Look &look) { m_look = look; }
+    /// Titles may hold "<sub>"; what comes from outside is to be made ChartScene::plain().
     void setTitle(const QString &title) { m_title = title; }
     void setTimeTitle(const QString &title) { m_timeTitle = title; }
     void setValueTitle(const QString &title) { m_valueTitle = title; }
@@ -45,8 +57,9 @@ private:
         QVector<QVector<QPointF>> pieces;
     };
     void addCurves(QtCharts::QChart *chart) const;
-    void addAxes(QtCharts::QChart *chart) const;
+    void addAxes(const ChartScene &scene, qreal height) const;
 
+    Look m_look;
     QFont m_font;
     QString m_title;
     QString m_timeTitle;

@@ -35,13 +35,17 @@ void VfNormalTable::setRows(const QList<VfTableRow *> &rows)
 
 int VfNormalTable::draw(int x, int y)
 {
-    const int windowWidth = m_painter->window().width();
-    if (totalWidth() > windowWidth)
+    if (totalWidth() > m_painter->window().width())
         return 0;
-    const int left = (windowWidth - totalWidth()) / 2 + x;
+    return drawRows(0, m_rowCount, x, y);
+}
+
+int VfNormalTable::drawRows(int first, int count, int x, int y)
+{
+    const int left = (m_painter->window().width() - totalWidth()) / 2 + x;
     int cursor = y + drawHeader(left, y);
-    for (const VfTableRow &row : qAsConst(m_rows))
-        cursor += drawRow(row, m_rowHeight, left, cursor);
+    for (int row = first; row < first + count; ++row)
+        cursor += drawRow(m_rows[row], m_rowHeight, left, cursor);
     return cursor;
 }
 

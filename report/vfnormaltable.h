@@ -17,6 +17,8 @@ public:
     void setRows(const QList<VfTableRow *> &rows) override;
     /// Returns where the table ends; a table wider than the window is not drawn and gives 0.
     int draw(int x, int y) override;
+    /// Draws the heads and \a count rows from \a first on. Returns where they end.
+    int drawRows(int first, int count, int x, int y);
     int drawHeader(int x, int y) override;
     int drawRow(const VfTableRow &row, int rowHeight, int x, int y) override;
 

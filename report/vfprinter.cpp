@@ -4,6 +4,7 @@
 #include "model/buildinfo.h"
 #include "model/experiment.h"
 #include "model/filename.h"
+#include "model/log.h"
 #include "report/dates.h"
 #include "report/fonts.h"
 #include "report/rulepen.h"
@@ -19,6 +20,7 @@
 #include <QLocale>
 #include <QPageLayout>
 #include <QPageSize>
+#include <QPdfWriter>
 #include <QTextOption>
 #include <QUrl>
 #include <QtMath>
@@ -65,6 +67,27 @@ void removeIncomplete(const QString &path)
 }
 
 } // namespace
+
+struct VfPrinter::Nowhere {
+    explicit Nowhere(const VfPrinter &printer)
+    {
+        bytes.open(QIODevice::WriteOnly);
+        writer.setResolution(printer.resolution());
+        writer.setPageLayout(printer.pageLayout());
+        painter->begin(&writer);
+    }
+    ~Nowhere() { painter->end(); }
+
+    /// Takes what is written and keeps nothing.
+    struct Sink : QIODevice {
+        bool isSequential() const override { return true; }
+        qint64 readData(char *, qint64) override { return -1; }
+        qint64 writeData(const char *, qint64 size) override { return size; }
+    };
+    Sink bytes;
+    QPdfWriter writer{&bytes};
+    std::unique_ptr<QPainter> painter = std::make_unique<QPainter>();
+};
 
 VfPrinter::VfPrinter() : QPrinter(QPrinter::ScreenResolution), m_painter(new QPainter), m_smallFont(ReportFont::sans(6))
 {
@@ -266,9 +289,35 @@ int VfPrinter::footHeight() const
 int VfPrinter::newContentPage()
 {
     m_footerHeight = drawFooter();
-    newPage();
+    beginPage();
     m_contentTop = m_y = drawPageHeader();
     return m_y;
+}
+
+void VfPrinter::beginPage()
+{
+    if (m_rehearsing)
+        m_nowhere->writer.newPage();
+    else
+        newPage();
+}
+
+VfPrinter::Extent VfPrinter::rehearse(const Content &drawing)
+{
+    if (!m_nowhere)
+        m_nowhere = std::make_unique<Nowhere>(*this);
+    const auto kept = std::make_tuple(m_y, m_sectionTop, m_contentTop, m_footerHeight, m_pageNumber, m_footerPage,
+                                      m_tableEnable);
+    const bool nested = std::exchange(m_rehearsing, true);
+    if (!nested)
+        m_painter.swap(m_nowhere->painter);
+    drawing();
+    if (!nested)
+        m_painter.swap(m_nowhere->painter);
+    m_rehearsing = nested;
+    const Extent extent{m_y - std::get<0>(kept), m_pageNumber - std::get<4>(kept)};
+    std::tie(m_y, m_sectionTop, m_contentTop, m_footerHeight, m_pageNumber, m_footerPage, m_tableEnable) = kept;
+    return extent;
 }
 
 // ---------------------------------------------------------------- body
@@ -387,20 +436,29 @@ int VfPrinter::drawCaptionedValue(const QString &caption, const QString &value, 
 
 // ---------------------------------------------------------------- sections
 
+QString VfPrinter::localTime(const QDateTime &moment)
+{
+    return moment.toLocalTime().toString(QStringLiteral("hh:mm:ss"));
+}
+
+QStringList VfPrinter::captioned(bool on, const QString &caption, const QString &value)
+{
+    return on ? QStringList{caption + QLatin1String(": ") + value} : QStringList();
+}
+
 void VfPrinter::drawIdentification()
 {
-    const auto captioned = [](bool on, const QString &caption, const QString &value) {
-        return on ? QStringList{caption + QLatin1String(": ") + value} : QStringList();
-    };
-    m_contentTop = m_y = drawPageHeader();
-    m_y += m_vSpace;
-    box([&] {
-        drawTwoColumns(captioned(m_cmpnyInfoEnable, tr("Company evaluated"), m_cmpnyName) +
+    drawIdentification(captioned(m_cmpnyInfoEnable, tr("Company evaluated"), m_cmpnyName) +
                            captioned(m_siteInfoEnable, tr("Site/Area"), m_siteName),
                        captioned(m_ownCompanyInfoEnable, tr("Valuation company"), m_ownCompany) +
-                           captioned(m_collectorInfoEnable, tr("Collected by"), m_collectorName) +
-                           QStringList{dateText(m_experiment->dateTime())});
-    });
+                           captioned(m_collectorInfoEnable, tr("Collected by"), m_collectorName));
+}
+
+void VfPrinter::drawIdentification(const QStringList &left, const QStringList &right)
+{
+    m_contentTop = m_y = drawPageHeader();
+    m_y += m_vSpace;
+    box([&] { drawTwoColumns(left, right + QStringList{dateText(m_experiment->dateTime())}); });
 }
 
 QString VfPrinter::calibrationText(const Calibration &calibration) const
@@ -478,6 +536,21 @@ VfTable *VfPrinter::createLogTable(Experiment *experiment)
     return makeLogTable(logTableRows(experiment), logTableHeader(experiment));
 }
 
+QList<VfTableRow *> VfPrinter::logRows(const Experiment *experiment,
+                                       const std::function<QStringList(const Log &log)> &cellsOf)
+{
+    QList<VfTableRow *> rows;
+    const QList<Log *> logs = experiment->logs();
+    rows.reserve(logs.size());
+    for (const Log *log : logs) {
+        QStringList cells{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
+                          localTime(log->registerDate())};
+        cells += cellsOf(*log);
+        rows.append(new VfTableRow(cells, log->registerDate().date()));
+    }
+    return rows;
+}
+
 VfTable *VfPrinter::makeLogTable(const QList<VfTableRow *> &rows, const QList<VfSubSuperScript *> &header)
 {
     auto *table = new VfFullPageTable(m_painter.get());
@@ -509,7 +582,7 @@ void VfPrinter::newTablePage()
 {
     if (!m_table)
         return;
-    newPage();
+    beginPage();
     m_contentTop = m_y = drawPageHeader();
     m_table->setNewPageDone(true);
 }

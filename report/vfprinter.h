@@ -14,6 +14,7 @@
 #include <memory>
 
 class Experiment;
+class Log;
 class VfSubSuperScript;
 class VfTable;
 class VfTableRow;
@@ -96,6 +97,17 @@ protected:
     int windowHeight() const { return m_painter->window().height(); }
     /// Reserves the height of the foot before anything is drawn.
     void measureFooter();
+    /// Where content ends on a page, above the foot.
+    int contentBottom() const { return windowHeight() - m_footerHeight; }
+    /// Runs \a drawing on pages that go nowhere, with the same measures, and leaves cursor and pages as they were.
+    /// Returns how far \a drawing moved the cursor on its last page and how many pages it began.
+    struct Extent {
+        int height;
+        int pages;
+    };
+    Extent rehearse(const Content &drawing);
+    /// Whether what is drawn goes nowhere: pictures of a known height need not be made.
+    bool isRehearsing() const { return m_rehearsing; }
     /// Begins a page: logo, title and rule. Returns where content starts.
     int drawPageHeader();
     /// Draws the foot with "n of N", once on a page. Returns its height.
@@ -124,9 +136,23 @@ protected:
     /// \a caption with \a value in small letters below it. Returns the height of both.
     int drawCaptionedValue(const QString &caption, const QString &value, int x, int y, const QRect &bounds);
 
+    /// Puts \a chart across the page, \a height pixels high.
+    template <class Chart> void placeChart(const Chart &chart, int height)
+    {
+        if (!isRehearsing())
+            chart.draw(m_painter.get(), m_hSpace, m_y, QSizeF(windowWidth() + 1 - 2 * m_hSpace, height), 1.0);
+        m_y += height;
+    }
+
     // --- sections that all families share ---
     /// Who measured where and for whom; begins the first page.
     void drawIdentification();
+    /// The same with the texts \a left and \a right, and the date of the measurement below those at the right.
+    void drawIdentification(const QStringList &left, const QStringList &right);
+    /// "hh:mm:ss"
+    static QString localTime(const QDateTime &moment);
+    /// "Caption: value", or nothing when it is not switched on.
+    static QStringList captioned(bool on, const QString &caption, const QString &value);
     /// "Cal. cert.: " with certificate and date of \a calibration.
     QString calibrationText(const Calibration &calibration) const;
     /// A box of 100 pixels; notes that need more are left out.
@@ -136,6 +162,9 @@ protected:
 
     // --- the log table ---
     /// A table of \a rows with \a header in the fonts of logs; the caller owns it.
+    /// Rows of all records: number, local time and the cells that \a cellsOf gives.
+    static QList<VfTableRow *> logRows(const Experiment *experiment,
+                                       const std::function<QStringList(const Log &log)> &cellsOf);
     VfTable *makeLogTable(const QList<VfTableRow *> &rows, const QList<VfSubSuperScript *> &header);
     /// Pages that \a table needs; a table wider than the page needs none and switches tables off.
     int countTablePages(std::unique_ptr<VfTable> table);
@@ -213,6 +242,12 @@ private:
     int drawColumn(const QStringList &texts, int x, int width);
     QString dateText(const QDateTime &dateTime) const;
 
+    /// A page that goes nowhere.
+    struct Nowhere;
+    void beginPage();
+
+    std::unique_ptr<Nowhere> m_nowhere; ///< made when it is first needed
+    bool m_rehearsing = false;
     QImage m_logo;
     int m_footerPage = 0; ///< page whose foot is drawn
     bool m_filesComplete = true;

@@ -24,12 +24,8 @@ ReportParameters Thalvex2Printer::familyParameters()
     return {{"ckbMaxMin", &m_ckbMaxMin}, {"ckbAvg", &m_ckbAvg}};
 }
 
-int Thalvex2Printer::printReport()
+void Thalvex2Printer::drawFront()
 {
-    const bool wanted = logTableWanted();
-    if (beginPainting() != 0)
-        return -1;
-    measureFooter();
     drawIdentification();
     drawExperiment();
     drawEvaluation();
@@ -37,20 +33,17 @@ int Thalvex2Printer::printReport()
     drawChartSection();
     drawNotes();
     drawSignature();
-    calculateTotalPages(wanted);
-    m_footerHeight = drawFooter();
-    if (wanted)
-        VfPrinter::drawLogTable(m_experiment);
-    if (m_ckbCsv)
-        writeCsvFile(csvSamples(m_experiment, 0));
-    return 0;
 }
 
-void Thalvex2Printer::calculateTotalPages(bool withLogTable)
+std::vector<PartedPrinter::Part> Thalvex2Printer::parts()
 {
-    m_totalPages = 1;
-    if (withLogTable)
-        m_totalPages += countTablePages(std::unique_ptr<VfTable>(createLogTable(m_experiment)));
+    return {{{}, logTable(0)}};
+}
+
+void Thalvex2Printer::writeFurtherFiles()
+{
+    if (m_ckbCsv)
+        writeCsvFile(csvSamples(m_experiment, 0));
 }
 
 void Thalvex2Printer::drawEvaluation()

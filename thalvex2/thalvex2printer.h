@@ -12,11 +12,12 @@ class Thalvex2Printer : public HeatStressPrinter
 public:
     Thalvex2Printer();
 
-    [[nodiscard]] int printReport() override;
-    void calculateTotalPages(bool withLogTable) override;
     QList<VfTableRow *> logTableRows(Experiment *experiment) override;
 
 protected:
+    void drawFront() override;
+    std::vector<Part> parts() override;
+    void writeFurtherFiles() override;
     ReportParameters familyParameters() override;
     QString sample(const Log &log, int unit, Quantity quantity) const override;
 

@@ -58,41 +58,33 @@ int Thalvex4Printer::unitCount() const
     return 1 + results().numberOfExpansions();
 }
 
-int Thalvex4Printer::printReport()
+void Thalvex4Printer::drawFront()
 {
-    const bool wanted = logTableWanted();
-    if (beginPainting() != 0)
-        return -1;
-    measureFooter();
     drawIdentification();
     drawExperiment();
     drawEvaluation();
     drawNotes();
     drawSignature();
-    calculateTotalPages(wanted);
-    m_footerHeight = drawFooter();
-    for (int unit = 0; unit < unitCount(); ++unit) {
-        newContentPage();
-        drawDeviceInfo(unit);
-        drawPartialResults(unit);
-        drawChartSection(unit);
-        drawFooter();
-        if (wanted)
-            drawLogTable(unit);
-    }
-    if (m_ckbCsv)
-        writeCsvFile(csvOfChain());
-    return 0;
 }
 
-void Thalvex4Printer::calculateTotalPages(bool withLogTable)
+std::vector<PartedPrinter::Part> Thalvex4Printer::parts()
 {
-    m_totalPages = 1;
+    std::vector<Part> units;
     for (int unit = 0; unit < unitCount(); ++unit) {
-        ++m_totalPages;
-        if (withLogTable)
-            m_totalPages += countTablePages(std::unique_ptr<VfTable>(createLogTable(m_experiment, unit)));
+        const auto page = [this, unit] {
+            drawDeviceInfo(unit);
+            drawPartialResults(unit);
+            drawChartSection(unit);
+        };
+        units.push_back({{page}, logTable(unit)});
     }
+    return units;
+}
+
+void Thalvex4Printer::writeFurtherFiles()
+{
+    if (m_ckbCsv)
+        writeCsvFile(csvOfChain());
 }
 
 void Thalvex4Printer::drawEvaluation()

@@ -14,10 +14,10 @@ class Thalvex4Printer : public HeatStressPrinter
 public:
     Thalvex4Printer();
 
-    [[nodiscard]] int printReport() override;
-    void calculateTotalPages(bool withLogTable) override;
-
 protected:
+    void drawFront() override;
+    std::vector<Part> parts() override;
+    void writeFurtherFiles() override;
     ReportParameters familyParameters() override;
     QString sample(const Log &log, int unit, Quantity quantity) const override;
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/report/measurements.h"
 
+#include "nembra/nembraexperiment.h"
+#include "nembraplus/nembraplusexperiment.h"
 #include "thalvex2/thalvex2experiment.h"
 #include "thalvex2/thalvex2log.h"
 #include "thalvex2/thalvex2results.h"
@@ -105,4 +107,75 @@ ExperimentChain Measurements::thalvex4(const Course &course)
     expectParsed(results->parseHeader4(extremes));
     experiment->setResults(std::move(results));
     return experiment;
+}
+
+namespace {
+
+QByteArray band(int number, int count, double frequency)
+{
+    return "3,1," + QByteArray::number(count) + ',' + QByteArray::number(number) + ',' +
+           QByteArray::number(frequency, 'f', 2) + ',' + QByteArray::number(60 + 20 * std::sin(number / 3.0), 'f', 2);
+}
+
+/// Octaves from 31.5 Hz on, or thirds from 50 Hz on.
+QByteArray bands(const QByteArray &octaves)
+{
+    QVector<double> frequencies;
+    if (octaves == "1/1")
+        frequencies = {31.5, 63, 125, 250, 500, 1000, 2000, 4000, 8000, 16000};
+    else if (octaves == "1/3")
+        frequencies = {50,   63,   80,   100,  125,  160,  200,  250,  315,  400,  500,   630,   800,  1000,
+                       1250, 1600, 2000, 2500, 3150, 4000, 5000, 6300, 8000, 10000, 12500, 16000};
+    QByteArrayList lines;
+    for (int i = 0; i < frequencies.size(); ++i)
+        lines.append(band(i, frequencies.size(), frequencies[i]));
+    return lines.join('\r');
+}
+
+template <class E, class L, class R> ExperimentChain sound(const Measurements::Noise &noise, const QByteArray &levels)
+{
+    const Measurements::Course &course = noise.course;
+    ExperimentChain experiment = measurement<E, L>(course, [&](int i) -> QByteArray {
+        const double level = 80 + 8 * std::sin(i / 7.0);
+        QByteArray text = i == course.samples / 2 ? QByteArray() : QByteArray::number(level, 'f', 1);
+        if (!course.text.isEmpty())
+            text = course.text;
+        if (noise.manual)
+            text += ',' + QByteArray::number(i % 9);
+        return ',' + text;
+    });
+    auto results = std::make_unique<R>();
+    const QByteArray duration = QByteArray::number(course.samples * course.interval);
+    expectParsed(results->parseHeader1("1,1," + noise.name + ',' + duration + ',' + span(course) + ",90," +
+                                       QByteArray::number(course.interval) + ",Slow,A," + noise.octaves + ",," +
+                                       (noise.overload ? "1" : "0") + (noise.manual ? ",MANUAL" : "")));
+    expectParsed(results->parseHeader2(levels));
+    const QByteArray spectrum = bands(noise.octaves);
+    if (!spectrum.isEmpty())
+        expectParsed(results->parseHeader3(spectrum));
+    const QByteArray when = ',' + wireText(course.start) + ',' + wireText(course.start);
+    expectParsed(results->parseHeader4("4,1," + noise.checks + when));
+    expectParsed(results->parseHeader5("5,1,91.05,90.1,80.5,70.9,70.95"));
+    experiment->setResults(std::move(results));
+    return experiment;
+}
+
+} // namespace
+
+ExperimentChain Measurements::nembra(const Noise &noise)
+{
+    return sound<NembraExperiment, NembraLog, NembraResults>(
+        noise, "2,1,85.31,97.25,54.05,98.5," + wireText(noise.course.start) + ",,111.15");
+}
+
+ExperimentChain Measurements::nembraPlus(const Noise &noise)
+{
+    QByteArrayList lines;
+    for (const int weighting : {0, 10, 20}) {
+        const auto number = [&](double value) -> QByteArray { return ',' + QByteArray::number(value + weighting, 'f', 2); };
+        const QByteArray when = ',' + wireText(noise.course.start);
+        lines.append("2,1,,," + number(60.01) + number(61.02) + number(62.03) + number(40.04) + number(63.05) + when +
+                     number(40.06) + number(63.07) + when + number(40.08) + number(63.09) + when);
+    }
+    return sound<NembraPlusExperiment, NembraPlusLog, NembraPlusResults>(noise, lines.join('\r'));
 }

@@ -24,4 +24,18 @@ ExperimentChain thalvex2(const Course &course);
 /// The same at 1 + expansions places, each half a degree warmer than the one before.
 ExperimentChain thalvex4(const Course &course);
 
+/// What a sound level meter was set to, and what came of it.
+struct Noise {
+    Course course;
+    QByteArray name = "Press";
+    QByteArray octaves = "1/1"; ///< "1/3", or another text: no bands
+    QByteArray checks = "94.0,93.8";
+    bool overload = false; ///< the meter of all weightings
+    bool manual = false;   ///< the same: records of lengths of their own
+};
+
+/// Levels around 80 dB, and one that is missing in the middle.
+ExperimentChain nembra(const Noise &noise);
+ExperimentChain nembraPlus(const Noise &noise);
+
 } // namespace Measurements

@@ -1,0 +1,89 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "report/barchart.h"
+
+#include "report/chartscene.h"
+
+#include <QBarCategoryAxis>
+#include <QBarSeries>
+#include <QBarSet>
+#include <QChart>
+#include <QLegend>
+#include <QValueAxis>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace QtCharts;
+
+namespace {
+
+// Pixels around the bars, for titles and labels.
+constexpr int LeftOfPlot = 45;
+constexpr int RightOfPlot = 10;
+constexpr int AbovePlot = 24;
+constexpr int BelowPlot = 40;
+constexpr int BelowDensePlot = 62;
+
+} // namespace
+
+void BarChart::setBars(const QStringList &categories, const QVector<double> &values, const QColor &color)
+{
+    m_categories = categories;
+    m_values = values;
+    m_color = color;
+}
+
+int BarChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal scale) const
+{
+    ChartScene scene(size, scale, QString(), m_font);
+    scene.addTitle(m_title, m_font, 0);
+    QChart *chart = scene.chart();
+    chart->legend()->hide();
+    auto *bars = new QBarSet(QString());
+    for (const double value : m_values)
+        bars->append(value);
+    QFont labels = m_font;
+    labels.setPixelSize(m_dense ? 6 : m_font.pixelSize());
+    bars->setColor(m_color);
+    bars->setBorderColor(Qt::transparent);
+    bars->setLabelColor(Qt::black);
+    bars->setLabelFont(labels);
+    auto *series = new QBarSeries;
+    series->append(bars);
+    series->setLabelsVisible(true);
+    series->setLabelsPosition(QAbstractBarSeries::LabelsOutsideEnd);
+    chart->addSeries(series);
+
+    auto *categories = new QBarCategoryAxis;
+    categories->append(m_categories);
+    scene.addAxis(categories, Qt::AlignBottom, m_categoryTitle, m_font);
+    auto *values = new QValueAxis;
+    scene.addAxis(values, Qt::AlignLeft, m_valueTitle, m_font);
+    // Above the highest bar there is room for its value; weighted levels may lie below 0.
+    double lowest = 0;
+    double highest = 0;
+    for (const double value : m_values) {
+        lowest = std::min(lowest, value);
+        highest = std::max(highest, value);
+    }
+    const double step = highest - lowest > 100 ? 50 : 20;
+    values->setRange(step * std::floor(lowest / step), step * std::ceil(highest / step + 0.5));
+    values->setTickType(QValueAxis::TicksDynamic);
+    values->setTickInterval(step);
+    values->setLabelFormat(QStringLiteral("%.0f"));
+    // With a plot in a place of its own the chart has none for a title.
+    const QRectF plot(LeftOfPlot, AbovePlot, size.width() * scale - LeftOfPlot - RightOfPlot,
+                      size.height() - AbovePlot - (m_dense ? BelowDensePlot : BelowPlot));
+    chart->setPlotArea(plot);
+    if (m_dense) { // the axis would cut turned labels that are longer than a bar is wide
+        QFont small = m_font;
+        small.setPixelSize(7);
+        categories->setLabelsVisible(false);
+        categories->setTitleVisible(false);
+        scene.addTitle(m_categoryTitle, m_font, size.height() - 20);
+        for (int i = 0; i < m_categories.size(); ++i)
+            scene.addTurned(m_categories[i], small,
+                            {plot.left() + (i + 0.5) * plot.width() / m_categories.size(), plot.bottom()});
+    }
+    return scene.render(painter, x, y);
+}

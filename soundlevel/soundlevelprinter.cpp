@@ -1,0 +1,340 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#include "soundlevel/soundlevelprinter.h"
+
+#include "model/experiment.h"
+#include "report/barchart.h"
+#include "report/chartscene.h"
+#include "report/dates.h"
+#include "report/timechart.h"
+#include "report/values.h"
+#include "report/vfheadedtable.h"
+#include "report/vfsubsuperscript.h"
+#include "soundlevel/soundlevellog.h"
+#include "soundlevel/soundlevelresults.h"
+
+#include <QTime>
+
+namespace {
+
+constexpr int ChartHeight = 150;
+constexpr int LongestName = 220; // pixels of a name in the table of measuring points
+
+QString captionedText(const QString &caption, const QString &value)
+{
+    return caption + QLatin1String(": ") + value;
+}
+
+QString letter(OctaveBands::Weighting curve)
+{
+    return curve == OctaveBands::Weighting::Z ? QStringLiteral("Z")
+           : curve == OctaveBands::Weighting::C ? QStringLiteral("C") : QStringLiteral("A");
+}
+
+QColor colour(OctaveBands::Weighting curve)
+{
+    return curve == OctaveBands::Weighting::Z ? Qt::red : curve == OctaveBands::Weighting::C ? Qt::darkGreen : Qt::blue;
+}
+
+/// A head of a table with the unit behind it, which the head owns.
+VfSubSuperScript *head(const QString &symbol, const QString &subscript, const QString &superscript, const QString &unit)
+{
+    auto *tail = new VfSubSuperScript(unit, {}, {});
+    auto *item = new VfSubSuperScript(symbol, subscript, superscript, tail);
+    tail->setParent(item);
+    return item;
+}
+
+VfSubSuperScript *head(const QString &text)
+{
+    return new VfSubSuperScript(text, {}, {});
+}
+
+} // namespace
+
+SoundLevelPrinter::SoundLevelPrinter()
+{
+    m_reportTitle = tr("Noise Report");
+    m_footerText = QStringLiteral(" ");
+    setBodyFonts();
+}
+
+void SoundLevelPrinter::setParameters(const QString &json)
+{
+    ReportParameters parameters = familyParameters();
+    const ReportParameters shared = {
+        {"emplInfoEnable", &m_emplInfoEnable}, {"emplName", &m_emplName},
+        {"ckbChartLvl", &m_ckbChartLvl},       {"ckbLeqZ", &m_ckbLeqZ},
+        {"ckbLeqA", &m_ckbLeqA},               {"ckbLeqC", &m_ckbLeqC},
+        {"ckbPreChk", &m_ckbPreChk},           {"ckbPosChk", &m_ckbPosChk},
+        {"ckbCalLab", &m_ckbCalLab},           {"ckbCalAudLab", &m_ckbCalAudLab},
+        {"audCertified", &m_audCertified},     {"ckbCalField", &m_ckbCalField},
+    };
+    parameters.insert(parameters.end(), shared.cbegin(), shared.cend());
+    readParameters(json, parameters);
+}
+
+const SoundLevelResults &SoundLevelPrinter::resultsOf(const Experiment &experiment)
+{
+    return static_cast<const SoundLevelResults &>(*experiment.results());
+}
+
+QString SoundLevelPrinter::levelText(const QString &value)
+{
+    return value == QLatin1String("OL") ? value : formatNumber(numberOf(value), 2, 2);
+}
+
+QString SoundLevelPrinter::timeWeightingText(const QString &weighting)
+{
+    const std::pair<const char *, QString> known[] = {
+        {"Slow", tr("Slow")}, {"Fast", tr("Fast")}, {"Impulse", tr("Impulse")}};
+    for (const auto &[word, text] : known) {
+        if (weighting == QLatin1String(word))
+            return text;
+    }
+    return weighting;
+}
+
+QVector<OctaveBands::Weighting> SoundLevelPrinter::curves() const
+{
+    QVector<OctaveBands::Weighting> asked;
+    if (!octavesWanted())
+        return asked;
+    if (m_ckbLeqZ)
+        asked.append(OctaveBands::Weighting::Z);
+    if (m_ckbLeqC)
+        asked.append(OctaveBands::Weighting::C);
+    if (m_ckbLeqA)
+        asked.append(OctaveBands::Weighting::A);
+    return asked;
+}
+
+bool SoundLevelPrinter::chartsWanted(const Experiment &experiment) const
+{
+    return m_ckbChartLvl || (!curves().isEmpty() && !resultsOf(experiment).leqList().isEmpty());
+}
+
+// ---------------------------------------------------------------- front
+
+void SoundLevelPrinter::drawFront()
+{
+    drawIdentification(captioned(m_collectorInfoEnable, tr("Collected by"), m_collectorName) +
+                           captioned(m_cmpnyInfoEnable, tr("Company evaluated"), m_cmpnyName) +
+                           captioned(m_ownCompanyInfoEnable, tr("Valuation company"), m_ownCompany),
+                       captioned(m_siteInfoEnable, tr("Site/Area"), m_siteName) +
+                           captioned(m_emplInfoEnable, tr("Employee"), m_emplName));
+    drawPoints();
+    drawCertificates();
+    keepTogether([this] { drawNotes(); });
+    keepTogether([this] { drawSignature(); });
+}
+
+void SoundLevelPrinter::drawPoints()
+{
+    const QFontMetrics metrics(m_textFont, m_painter->device());
+    QList<VfTableRow *> rows;
+    for (const Experiment *member = m_experiment; member; member = member->next()) {
+        const SoundLevelResults &results = resultsOf(*member);
+        QStringList cells{QString::number(member->ordinal()),
+                          metrics.elidedText(results.label().simplified(), Qt::ElideRight, LongestName)};
+        const Levels levels = pointLevels(results);
+        for (const Level &level : levels)
+            cells.append(levelText(level.value));
+        rows.append(new VfTableRow(cells, {}));
+    }
+    QList<VfSubSuperScript *> heads{head(tr("Event")), head(tr("Name"))};
+    const Levels levels = pointLevels(resultsOf(*m_experiment));
+    for (const Level &level : levels)
+        heads.append(head(level.symbol, level.subscript, level.superscript, QStringLiteral(" [dB]")));
+    VfHeadedTable table(m_painter.get());
+    table.setRows(rows);
+    table.setHeader(heads);
+    tableSection(tr("Measuring points"), table);
+}
+
+void SoundLevelPrinter::drawCertificates()
+{
+    if (!m_ckbCalLab && !m_ckbCalAudLab)
+        return;
+    const QString &certificate = m_calibration.certification;
+    wholeSection(tr("Laboratory calibration"), [&] {
+        if (m_ckbCalLab) {
+            drawLine(captionedText(tr("Sonometer"), certificate.isEmpty() ? tr("invalid")
+                                                                          : certificate + QLatin1Char(' ') +
+                                                                                ::dateText(m_calibration.date.date())));
+        }
+        if (m_ckbCalAudLab)
+            drawLine(captionedText(tr("Sound calibrator"), m_audCertified));
+    });
+}
+
+// ---------------------------------------------------------------- parts
+
+std::vector<PartedPrinter::Part> SoundLevelPrinter::parts()
+{
+    std::vector<Part> all;
+    for (Experiment *member = m_experiment; member; member = member->next()) {
+        Part part;
+        part.pages.push_back([this, member] {
+            drawConfiguration(*member);
+            drawFieldChecks(*member);
+            drawFigures(*member);
+            if (!chartsApart() && chartsWanted(*member))
+                keepTogether([&] { drawCharts(*member); });
+        });
+        if (chartsApart() && chartsWanted(*member))
+            part.pages.push_back([this, member] { drawCharts(*member); });
+        part.logTable = [this, member] { return createLogTable(member); };
+        all.push_back(std::move(part));
+    }
+    return all;
+}
+
+void SoundLevelPrinter::drawConfiguration(const Experiment &experiment)
+{
+    constexpr int columns = 3;
+    const SoundLevelResults &results = resultsOf(experiment);
+    QStringList texts{
+        captionedText(tr("Event"), QString::number(experiment.ordinal())),
+        captionedText(tr("Task name"), results.label()),
+        QString(),
+        captionedText(tr("Sample time [s]"), results.sampleTime()),
+        captionedText(tr("Start time"), localTime(results.startTime())),
+        captionedText(tr("Stop time"), localTime(results.stopTime())),
+        // as a time of day: what is longer than a day begins anew
+        captionedText(tr("Duration"), QTime(0, 0).addSecs(results.duration().toInt()).toString(QStringLiteral("hh:mm:ss"))),
+        captionedText(tr("Pause time"), results.pauseTime()),
+    };
+    texts += configurationTexts(results);
+    texts.append(captionedText(tr("Octave analysis"), results.octaveAnalysis()));
+    wholeSection(tr("Configuration"), [&] {
+        for (int first = 0; first < texts.size(); first += columns)
+            drawColumns(texts.mid(first, columns), columns);
+    });
+}
+
+void SoundLevelPrinter::drawFieldChecks(const Experiment &experiment)
+{
+    if (!m_ckbPreChk && !m_ckbPosChk)
+        return;
+    const FieldChecks &checks = resultsOf(experiment).fieldChecks();
+    const CheckWords words = checkWords();
+    const auto line = [this](const QString &caption, const QString &value, const QDateTime &when) {
+        if (value == QLatin1String("---"))
+            return drawLine(caption + QLatin1String(" [dB]: --- "));
+        const QDateTime local = when.toLocalTime();
+        const QString moment = ::dateText(local.date()) + QLatin1Char(' ') + local.toString(QStringLiteral("hh:mm"));
+        drawLine(caption + QLatin1String(" [dB]: ") + value + QLatin1String(" (") + moment + QLatin1Char(')'));
+    };
+    wholeSection(tr("Field ver. @ 1kHz"), [&] {
+        if (m_ckbPreChk)
+            line(words.pre, checks.pre, checks.preDate);
+        if (m_ckbPosChk)
+            line(words.pos, checks.pos, checks.posDate);
+        const std::optional<double> deviation = checks.deviation();
+        if (m_ckbPreChk && m_ckbPosChk && (deviation || words.unknownDeviation)) {
+            drawLine(tr("Desviate") + QLatin1String(" [dB]: ") +
+                     (deviation ? formatNumber(*deviation, 2, 2) : QStringLiteral("--- ")));
+        }
+    });
+}
+
+void SoundLevelPrinter::drawLevels(const QVector<Levels> &columns)
+{
+    const int step = (windowWidth() - 2 * m_hSpace) / qMax(columns.size(), 1);
+    const int top = m_y;
+    int bottom = top;
+    for (int column = 0; column < columns.size(); ++column) {
+        int y = top;
+        for (const Level &level : columns[column]) {
+            VfSubSuperScript tail(QLatin1String(" [dB]: ") + level.value, {}, {});
+            VfSubSuperScript symbol(level.symbol, level.subscript, level.superscript, &tail);
+            symbol.setFont(m_textFont);
+            tail.setFont(m_textFont);
+            symbol.draw(m_hSpace + column * step, y, m_painter.get());
+            y += symbol.height(m_painter.get()) + 2 * m_vSpace;
+        }
+        bottom = qMax(bottom, y);
+    }
+    m_y = bottom;
+}
+
+// ---------------------------------------------------------------- charts
+
+void SoundLevelPrinter::drawCharts(const Experiment &experiment)
+{
+    const SoundLevelResults &results = resultsOf(experiment);
+    section(tr("Charts"), [&] {
+        if (m_ckbChartLvl)
+            drawLevelChart(experiment);
+        if (results.leqList().isEmpty())
+            return;
+        const auto asked = curves();
+        for (const OctaveBands::Weighting curve : asked)
+            drawOctaveChart(results, curve);
+    });
+}
+
+void SoundLevelPrinter::drawLevelChart(const Experiment &experiment)
+{
+    const QString symbol =
+        QStringLiteral("L<sub>%1eq</sub>").arg(ChartScene::plain(resultsOf(experiment).freqWeighting().left(8)));
+    TimeChart chart(m_chartFont);
+    chart.setLook({TimeChart::Curves::Lines, TimeChart::Beyond::Tenth, false});
+    chart.setTitle(symbol + QLatin1String(" x ") + tr("Time"));
+    chart.setTimeTitle(tr("Time", "X axis label"));
+    chart.setValueTitle(symbol + QLatin1String(" [dB]"));
+    QVector<QPointF> points;
+    const QList<Log *> logs = experiment.logs();
+    points.reserve(logs.size());
+    for (const Log *log : logs) {
+        if (const auto level = numberIn(static_cast<const SoundLevelLog *>(log)->level()))
+            points.append({double(log->registerDate().toMSecsSinceEpoch()), *level});
+    }
+    chart.addCurve(QString(), points);
+    placeChart(chart, ChartHeight);
+}
+
+void SoundLevelPrinter::drawOctaveChart(const SoundLevelResults &results, OctaveBands::Weighting curve)
+{
+    const auto analysis = OctaveBands::analysisOf(results.octaveAnalysis());
+    const bool thirds = analysis == OctaveBands::Analysis::Third;
+    const QString symbol = QStringLiteral("L<sub>%1eq</sub>").arg(letter(curve));
+    QStringList labels;
+    for (const LeqPerOctave &band : results.leqList())
+        labels.append(OctaveBands::label(band.frequency));
+    BarChart chart(m_chartFont);
+    chart.setTitle(symbol + QLatin1String(" x ") + (thirds ? tr("1/3 Octave") : tr("Octave")));
+    chart.setCategoryTitle(tr("Frequency [Hz]"));
+    chart.setValueTitle(symbol + QLatin1String(" [dB]"));
+    chart.setBars(labels, OctaveBands::levels(results.leqList(), analysis, curve), colour(curve));
+    chart.setDense(thirds);
+    placeChart(chart, ChartHeight);
+}
+
+// ---------------------------------------------------------------- log table
+
+QString SoundLevelPrinter::interval(const SoundLevelResults &results) const
+{
+    return results.sampleTime() + QLatin1Char('s');
+}
+
+QList<VfSubSuperScript *> SoundLevelPrinter::logTableHeader(Experiment *experiment)
+{
+    QList<VfSubSuperScript *> heads{
+        head(tr("Idx")), head(tr("D/T")),
+        head(QStringLiteral("L"), QLatin1String("eq,") + interval(resultsOf(*experiment)), {}, QStringLiteral("[dB]"))};
+    for (const FurtherColumn &column : furtherColumns(*experiment))
+        heads.append(head(column.head, {}, {}, column.unit));
+    return heads;
+}
+
+QList<VfTableRow *> SoundLevelPrinter::logTableRows(Experiment *experiment)
+{
+    const QVector<FurtherColumn> further = furtherColumns(*experiment);
+    return logRows(experiment, [&](const Log &log) {
+        QStringList cells{static_cast<const SoundLevelLog &>(log).level()};
+        for (const FurtherColumn &column : further)
+            cells.append(column.cell(log));
+        return cells;
+    });
+}
