@@ -20,12 +20,11 @@ constexpr Corrections curveC = {-14.3, -11.2, -8.5, -6.2, -4.4, -3.0, -2.0, -1.3
 /// The third octave of the first band that instruments begin with.
 std::optional<int> startIndex(const QString &frequency)
 {
-    if (frequency == QLatin1String("63.00"))
-        return 8;
-    if (frequency == QLatin1String("31.50") || frequency == QLatin1String("32.00"))
-        return 5;
-    if (frequency == QLatin1String("50.00"))
-        return 7;
+    constexpr std::pair<double, int> starts[] = {{63, 8}, {31.5, 5}, {32, 5}, {50, 7}};
+    for (const auto &[start, index] : starts) {
+        if (frequency.toDouble() == start)
+            return index;
+    }
     return std::nullopt;
 }
 

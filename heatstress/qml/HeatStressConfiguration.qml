@@ -7,12 +7,11 @@ import "../../qml/pages"
 VfConfigurationWindow {
     id: window
 
-    readonly property var unities: ["°C", "°F"]
-    property string unity
+    property alias unity: unity.value
     property alias sampleTime: sampleTime.text
 
     function fill(configuration) {
-        unity = configuration.unity
+        unity.value = configuration.unity
         sampleTime.text = configuration.sampleTime
     }
 
@@ -22,8 +21,8 @@ VfConfigurationWindow {
             return null
         }
         var configuration = { sampleTime: sampleTime.text }
-        if (unities.indexOf(unity) >= 0)
-            configuration.unity = unity
+        if (unity.isChosen)
+            configuration.unity = unity.value
         return configuration
     }
 
@@ -32,19 +31,7 @@ VfConfigurationWindow {
         height: 130
         label: qsTr("Unity") + " *"
 
-        Column {
-            spacing: Theme.gap
-
-            Repeater {
-                model: window.unities
-                VfRadioButton {
-                    group: qsTr("Unity")
-                    text: modelData
-                    checked: window.unity === modelData
-                    onToggled: window.unity = modelData
-                }
-            }
-        }
+        VfRadioGroup { id: unity; name: qsTr("Unity"); choices: ["°C", "°F"] }
     }
 
     VfFrame {

@@ -4,39 +4,22 @@ import "../../qml/widgets"
 import "../../qml/widgets/texts.js" as Texts
 
 /// A box of the figures that the instrument computed of one quantity. A line that the quantity does not have is hidden.
-VfFrame {
-    id: item
-
+VfFigures {
     /// {label, figures, and the keys of the figures: maximum, average, minimum; whether it is what decides}.
     property var quantity: modelData
-
-    function figure(line) { return Texts.numberText(quantity.figures[quantity[line]], root.numberToLocalString) }
+    readonly property string unit: " [" + Texts.shown(quantity.figures.unity, 12) + "]:"
 
     label: quantity.label
     color: quantity.decides ? Theme.decisiveGround : Theme.ground
+    cellWidth: implicitWidth - 2 * padding
     implicitWidth: quantity.decides ? 190 : 150
     height: 140
-
-    Column {
-        spacing: 12
-
-        Repeater {
-            model: [{ label: qsTr("Max"), line: "maximum" }, { label: qsTr("Avg"), line: "average" },
-                    { label: qsTr("Min"), line: "minimum" }]
-            Column {
-                visible: item.quantity[modelData.line] !== undefined
-                spacing: 2
-                VfElidedText {
-                    width: item.width - 2 * item.padding
-                    color: Theme.quietText
-                    whole: modelData.label + " [" + Texts.shown(item.quantity.figures.unity, 12) + "]:"
-                }
-                VfElidedText {
-                    width: item.width - 2 * item.padding
-                    whole: item.figure(modelData.line)
-                    font { pixelSize: item.quantity.decides ? Theme.decisiveSize : Theme.largeSize; bold: true }
-                }
-            }
-        }
-    }
+    valueSize: quantity.decides ? Theme.decisiveSize : Theme.largeSize
+    figures: [
+        { caption: qsTr("Max"), key: quantity.maximum },
+        { caption: qsTr("Avg"), key: quantity.average },
+        { caption: qsTr("Min"), key: quantity.minimum }
+    ].filter(function (line) { return line.key !== undefined }).map(function (line) {
+        return { caption: line.caption + unit, value: Texts.numberText(quantity.figures[line.key], root.numberToLocalString) }
+    })
 }

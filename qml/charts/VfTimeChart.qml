@@ -51,19 +51,20 @@ FocusScope {
         return TimeChart.readings(experiment.logList || [], moment, roles, reading)
     }
 
-    /// data: what read() gave, with names and the range low..high; sampleTime in seconds stays free on both sides.
-    function show(data, sampleTime) {
+    /// data: what read() gave, with names and the range low..high; so many seconds stay free before and behind, the same
+    /// on both sides unless told.
+    function show(data, before, behind) {
         forget()
         times = data.times
         sorted = data.sorted
         values = data.values
         names = data.names
-        var margin = (Number(sampleTime) || 0) * 1000, reach = TimeChart.reach(times, sorted)
+        var reach = TimeChart.reach(times, sorted)
         var range = isNaN(data.low + data.high) ? TimeChart.extremes(values) : data
         chart.removeAllSeries()     // the axes change while no curve has to follow
         severalDays = reach.first < new Date(reach.last).setHours(0, 0, 0, 0)
-        timeAxis.min = new Date(reach.first - Math.max(margin, 500))
-        timeAxis.max = new Date(reach.last + Math.max(margin, 500))
+        timeAxis.min = new Date(reach.first - TimeChart.margin(before))
+        timeAxis.max = new Date(reach.last + TimeChart.margin(behind === undefined ? before : behind))
         valueAxis.min = isNaN(range.low) ? 0 : range.low
         valueAxis.max = isNaN(range.high) ? 1 : range.high
         valueAxis.tickCount = 5     // what the last nice numbers came to would else count
@@ -167,6 +168,7 @@ FocusScope {
     Keys.onDownPressed: changeCurve(1)
     Keys.onSpacePressed: hover.holdOn = !hover.holdOn && current >= 0
     Keys.onEscapePressed: forget()
+    Keys.onDeletePressed: forget()
     Keys.onPressed: {
         var page = Math.max(1, Math.round(times.length / 20))
         var by = { [Qt.Key_PageUp]: -page, [Qt.Key_PageDown]: page,
@@ -248,7 +250,7 @@ FocusScope {
         width: Math.min(parent.width, oneRow)
 
         Repeater {
-            model: timeChart.names
+            model: timeChart.names.length > 1 ? timeChart.names : [] // the title tells of a single curve
             Row {
                 spacing: 5
                 Rectangle {

@@ -197,6 +197,17 @@ function step(curve, record, by) {
     return found
 }
 
+// What a chart leaves free beside its records, in ms, from seconds as an instrument tells them.
+function margin(seconds) {
+    return Math.max((Number(seconds) || 0) * 1000, 500)
+}
+
+// The range of some arrays with a tenth more at its ends, as {low, high}.
+function tenthAround(values) {
+    var range = extremes(values)
+    return { low: Math.min(range.low * 0.9, range.low * 1.1), high: Math.max(range.high * 0.9, range.high * 1.1) || 1 }
+}
+
 // Lowest and highest number of some arrays, as {low, high}; both NaN when there is none.
 function extremes(values) {
     var low = NaN, high = NaN

@@ -2,34 +2,66 @@
 import QtQuick 2.15
 import "../widgets"
 
-/// A group of a report's boxes: its head box, if the group has a key, and the boxes that hang on it.
+/// A group of a report's boxes: its head box, if the group has a key, and the boxes that hang on it. A box may have a text
+/// beside it.
 Column {
     id: boxes
 
-    /// {title, key, boxes: [{key, label}]}
+    /// {title, key, boxes: [{key, label, text}]}
     property var group: ({ boxes: [] })
-    /// What is on, by key.
+    /// What is on, and what was typed, by key; and the keys of what cannot be on.
     property var values: ({})
+    property var withheld: []
+    /// Whether the title stands above boxes without a head box.
+    property bool captioned: false
     readonly property bool headed: group.key !== undefined
 
     signal toggled(string key, bool on)
+    signal edited(string key, string text)
+
+    function isFree(key) { return withheld.indexOf(key) < 0 }
 
     VfCheckBox {
         checked: boxes.values[boxes.group.key] === true
+        enabled: boxes.isFree(boxes.group.key)
         font.bold: true
         text: boxes.group.title
         visible: boxes.headed
         onToggled: boxes.toggled(boxes.group.key, checked)
     }
+    VfText {
+        height: 24
+        font { pixelSize: Theme.smallSize; bold: true }
+        text: boxes.group.title || ""
+        verticalAlignment: Text.AlignVCenter
+        visible: boxes.captioned && !boxes.headed
+    }
     Repeater {
         model: boxes.group.boxes
-        VfCheckBox {
-            checked: boxes.values[modelData.key] === true
-            enabled: !boxes.headed || boxes.values[boxes.group.key] === true
-            group: boxes.group.title
-            leftPadding: boxes.headed ? 20 : 2
-            text: modelData.label
-            onToggled: boxes.toggled(modelData.key, checked)
+        Row {
+            spacing: Theme.gap
+
+            VfCheckBox {
+                id: box
+
+                anchors.verticalCenter: parent.verticalCenter
+                checked: boxes.values[modelData.key] === true
+                enabled: boxes.isFree(modelData.key) && (!boxes.headed || boxes.values[boxes.group.key] === true)
+                group: boxes.group.title
+                leftPadding: boxes.headed ? 20 : 2
+                text: modelData.label
+                onToggled: boxes.toggled(modelData.key, checked)
+            }
+            Loader {
+                active: modelData.text !== undefined
+                visible: active
+                sourceComponent: VfTextField {
+                    width: 180
+                    enabled: box.checked && box.enabled
+                    Accessible.name: box.Accessible.name
+                    onTextChanged: boxes.edited(modelData.text, text)
+                }
+            }
         }
     }
 }

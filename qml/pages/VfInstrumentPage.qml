@@ -15,6 +15,10 @@ VfPage {
     property string fileFilter
     readonly property string ending: fileFilter.replace(/[()*]/g, "")
     property Component experimentDelegate
+    /// Whether several experiments are ticked and then accepted; else a click picks one.
+    property bool severalAtOnce: false
+    /// Whether a file that could not be written is told as a failed download too.
+    property bool tellsFailedSaving: false
     /// A VfConfigurationWindow, made when it is first asked for.
     property Component configurationWindow
 
@@ -24,6 +28,7 @@ VfPage {
     readonly property alias replaceQuestion: replaceQuestion
     readonly property alias list: list
     readonly property alias progress: progress.value
+    readonly property alias warningText1: warning.text
     readonly property alias configuration: configurationLoader.item
     readonly property alias saveDialog: saveFile.item
 
@@ -46,10 +51,26 @@ VfPage {
         })
     }
 
+    /// Ticks what is not ticked and the other way round, or picks one for good.
     function pick(index) {
+        if (severalAtOnce) {
+            var others = selectedIdx.filter(function (position) { return position !== index })
+            selectedIdx = others.length < selectedIdx.length ? others : others.concat(index)
+            return
+        }
         selectedIdx = [index]
         chooseFile(proposedName())
     }
+
+    function accept() {
+        if (selectedIdx.length === 0)
+            warning.text = qsTr("You shall select at least one exposure component")
+        else
+            chooseFile(proposedName())
+    }
+
+    /// What is picked, in the order of the list.
+    function positions() { return selectedIdx.slice().sort(function (a, b) { return a - b }) }
 
     function chooseFile(name) {
         saveFile.open()
@@ -58,7 +79,7 @@ VfPage {
     }
 
     function proposedName() {
-        var picked = selectedIdx.map(function (position) { return core.experimentList[position] })
+        var picked = positions().map(function (position) { return core.experimentList[position] })
         return Experiments.proposedName(productName, core.device.SN, picked) + ending
     }
 
@@ -74,17 +95,20 @@ VfPage {
 
     /// Downloads what is picked and saves it. The results show also when the file cannot be written; they tell of it.
     function download(fileUrls) {
-        var positions = selectedIdx.slice().sort(function (a, b) { return a - b })
+        var wanted = JSON.stringify(positions())
         root.wait(qsTr("Downloading") + "...", function () {
-            var code = core.createExperiment(JSON.stringify(positions))
+            var code = core.createExperiment(wanted)
             if (code === root.deviceSuccessful)
                 root.unsaved = core.saveExperimentToFile(fileUrls) === root.deviceSuccessful ? "" : fileOf(fileUrls)
             return code
         }, function (code) {
             progress.value = 0
-            dialogs.answered(code, dialogs.downloadFailDialog)
+            if (dialogs.answered(code, dialogs.downloadFailDialog) && root.unsaved && tellsFailedSaving)
+                dialogs.downloadFailDialog.open()
         })
     }
+
+    onSelectedIdxChanged: warning.text = ""
 
     VfDialogs { id: dialogs }
     VfReplaceQuestion { id: replaceQuestion; owner: page }
@@ -95,13 +119,26 @@ VfPage {
         VfList {
             id: list
 
-            anchors { fill: parent; bottomMargin: progress.height + Theme.spacing }
+            anchors { left: parent.left; right: parent.right; top: parent.top; bottom: warning.top }
             headerlabel: qsTr("Experiments")
             emptyText: qsTr("No experiments in the instrument's memory.")
             model: core.experimentList
             delegate: page.experimentDelegate
+            checkable: page.severalAtOnce
+            picked: page.selectedIdx
             onListClicked: page.pick(indexItem)
             onModelChanged: page.selectedIdx = []
+        }
+        VfText {
+            id: warning
+
+            anchors { left: parent.left; right: parent.right; bottom: progress.top; bottomMargin: Theme.spacing }
+            color: Theme.warning
+            height: page.severalAtOnce ? implicitHeight : 0
+            topPadding: Theme.gap
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.AlertMessage
+            Accessible.name: text
         }
         VfProgressBar {
             id: progress
@@ -109,7 +146,10 @@ VfPage {
             anchors { left: parent.left; right: parent.right; bottom: parent.bottom }
         }
 
-        actions: MyButton { buttonLabel: qsTr("Configure"); onMyButtonclicked: page.configure() }
+        actions: [
+            MyButton { buttonLabel: qsTr("Configure"); onMyButtonclicked: page.configure() },
+            MyButton { buttonLabel: qsTr("Accept"); visible: page.severalAtOnce; onMyButtonclicked: page.accept() }
+        ]
     }
 
     Loader {

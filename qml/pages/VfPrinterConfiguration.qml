@@ -10,16 +10,24 @@ import "reportkeys.js" as ReportKeys
 Window {
     id: window
 
-    /// Groups of boxes {title, key, boxes: [{key, label}]}. Those with a key of their own have a head box that switches
+    /// Groups of boxes {title, key, boxes: [{key, label, text}]}. Those with a key of their own have a head box that switches
     /// its boxes; the first list stands in one frame under itemsTitle, the second in a frame for each.
     property string itemsTitle
     property var itemGroups: []
     property var optionGroups: []
+    /// Whether the client's employee is among the texts.
+    property bool employeeAsked: false
+    /// The experiment that the page shows, and the keys of the boxes that cannot be on with it.
+    property var experiment: null
+    property var withheld: []
 
+    readonly property var employee: ({ on: "emplInfoEnable", text: "emplName", label: qsTr("Employee"),
+                                       example: qsTr("Joe Smith") })
     readonly property var client: [
-        { on: "cmpnyInfoEnable", text: "cmpnyName", label: qsTr("Company"), example: qsTr("McHat, Inc.") },
+        { on: "cmpnyInfoEnable", text: "cmpnyName", label: qsTr("Company"), example: qsTr("McHat, Inc.") }
+    ].concat(employeeAsked ? employee : [], [
         { on: "siteInfoEnable", text: "siteName", label: qsTr("Site/Area"), example: qsTr("Engineering") }
-    ]
+    ])
     readonly property var identification: [
         { on: "ownCompanyInfoEnable", text: "ownCompany", label: qsTr("Company"), example: qsTr("Evaluations, Inc.") },
         { on: "collectorInfoEnable", text: "collectorName", label: qsTr("Collected by"), example: qsTr("Ann Field") },
@@ -57,7 +65,7 @@ Window {
     width: 850
     height: 550
     onVisibleChanged: {
-        values = ReportKeys.allOn(rows, values)
+        values = ReportKeys.allOn(rows, values, withheld)
         x = Screen.virtualX + Math.max(0, Screen.width - width) / 2
         y = Screen.virtualY + Math.max(0, Screen.height - height) / 2
     }
@@ -68,9 +76,12 @@ Window {
         id: groupBoxes
 
         ReportBoxes {
+            captioned: true
             group: modelData
             values: window.values
+            withheld: window.withheld
             onToggled: window.set(key, on)
+            onEdited: window.set(key, text)
         }
     }
 
@@ -116,12 +127,14 @@ Window {
                         VfFrame {
                             Layout.fillWidth: true
                             Layout.fillHeight: true
-                            Layout.maximumHeight: 100
+                            Layout.maximumHeight: Math.max(100, implicitHeight)
                             label: modelData.title
                             ReportBoxes {
                                 group: modelData
                                 values: window.values
+                                withheld: window.withheld
                                 onToggled: window.set(key, on)
+                                onEdited: window.set(key, text)
                             }
                         }
                     }

@@ -70,6 +70,7 @@ VfPage {
 
     function openReport() {
         reportLoader.active = true
+        reportLoader.item.experiment = experiment
         reportLoader.item.show()
         reportLoader.item.raise()
         reportLoader.item.requestActivate()

@@ -103,6 +103,11 @@ function cutFor(record, pick) {
     return groups < 98 ? { form: new RegExp(form, "g"), left: "[" + left.join(",") + "]" } : null
 }
 
+// The record at a place of Records or of an array.
+function at(list, place) {
+    return list.at ? list.at(place) : list[place]
+}
+
 // The records of a list that begins in a text; null when they are not alike, so that the text is to be parsed as a whole.
 function recordsFrom(text, begin) {
     // Every record begins with the same key, and between quotes the quotes of such a beginning would be escaped.

@@ -12,22 +12,24 @@ function ofField(field) {
     return [on(field.on, field.under), text(field.text, field.under || field.on)]
 }
 
-// The keys of a group of boxes {title, key, boxes: [{key, label}]}: its head, and the boxes that hang on it.
-// A group without a head key has boxes that are always sent.
+// The keys of a group of boxes {title, key, boxes: [{key, label, text}]}: its head, and the boxes that hang on it. A text
+// beside a box is sent while that is on. A group without a head key has boxes that are always sent.
 function ofGroup(group) {
     var head = group.key ? [on(group.key)] : []
-    return head.concat(group.boxes.map(function (box) { return on(box.key, group.key) }))
+    return head.concat(joined(group.boxes, function (box) {
+        return [on(box.key, group.key)].concat(box.text ? text(box.text, box.key) : [])
+    }))
 }
 
 function joined(parts, rowsOf) {
     return parts.reduce(function (rows, part) { return rows.concat(rowsOf(part)) }, [])
 }
 
-// values with every switch on; the texts stay.
-function allOn(rows, values) {
+// values with every switch on but those withheld; the texts stay.
+function allOn(rows, values, withheld) {
     var next = {}
     rows.forEach(function (row) {
-        next[row.key] = row.kind === "switch" ? true : values[row.key] || ""
+        next[row.key] = row.kind === "switch" ? withheld.indexOf(row.key) < 0 : values[row.key] || ""
     })
     return next
 }

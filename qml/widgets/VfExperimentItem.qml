@@ -2,19 +2,18 @@
 import QtQuick 2.15
 import "."
 
-/// An experiment in an instrument's memory: a text in large type, lines beside it and, where several can be picked, a
-/// check box that follows each click.
+/// An experiment in an instrument's memory: a text in large type, lines beside it and, in a list that lets pick several, a
+/// check box. What is picked is known to the list, for items go and come as it is scrolled.
 VfListItem {
     id: item
 
     property string text
     /// What stands beside it: [{text, width}]; a line without a width takes what it needs.
     property var lines: []
-    property bool checkable: false
-    property bool checked: false
+    property bool checkable: ListView.view !== null && ListView.view.checkable === true
+    property bool checked: checkable && ListView.view.picked.indexOf(index) >= 0
 
     description: [text].concat(lines.map(function (line) { return line.text })).join(" ")
-    onItemClicked: if (checkable) checked = !checked
     Accessible.checkable: checkable
     Accessible.checked: checked
 

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
-import QtQuick.Controls 2.15
 import "."
 
 /// A text of a report, with the box that says whether it is printed.
@@ -31,28 +30,12 @@ Item {
         onToggled: input.toggled(checked)
     }
 
-    TextField {
+    VfTextField {
         id: field
 
         anchors { left: box.right; right: parent.right; verticalCenter: parent.verticalCenter }
-        height: 26
-        color: Theme.text
         enabled: box.checked
-        font { family: fontSans.name; pixelSize: Theme.smallSize }
-        leftPadding: 6
-        placeholderTextColor: Theme.quietText
-        selectByMouse: true
-        selectedTextColor: Theme.textOnDark
-        selectionColor: Theme.accent
-        topPadding: 2
-        bottomPadding: 2
         onTextChanged: input.edited(text)
         Accessible.name: box.Accessible.name
-        Accessible.role: Accessible.EditableText
-        background: Rectangle {
-            color: field.enabled ? Theme.ground : Theme.quietGround
-            border { width: field.activeFocus ? 2 : 1; color: field.activeFocus ? Theme.accent : Theme.fieldLine }
-            radius: Theme.radius
-        }
     }
 }

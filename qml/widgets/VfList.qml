@@ -13,6 +13,9 @@ Item {
     property alias currentIndex: view.currentIndex
     readonly property alias count: view.count
     readonly property alias view: view
+    /// Whether its items have check boxes, and the positions of the ticked ones.
+    property alias checkable: view.checkable
+    property alias picked: view.picked
     /// What stands in a list that has nothing to show.
     property string emptyText
 
@@ -41,6 +44,9 @@ Item {
 
         ListView {
             id: view
+
+            property bool checkable: false
+            property var picked: []
 
             signal clicked(int index)
 

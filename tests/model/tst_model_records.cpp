@@ -8,6 +8,7 @@
 #include "model/setting.h"
 #include "tests/families/familycase.h"
 
+#include <QJSEngine>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QtTest>
@@ -172,6 +173,8 @@ private slots:
                                         << Levels{78.7, 79.2};
         QTest::newRow("octaves from 63, one not measured") << QStringList{"63.00", "80", "125.00", "---"} << "1/1"
                                                            << Levels{53.8, -16.1} << Levels{79.2, -0.2};
+        QTest::newRow("32 written otherwise") << QStringList{"32.0", "70", "1250", "60"} << "1/1" << Levels{30.6, 33.8}
+                                              << Levels{67, 59.2};
         QTest::newRow("no analysis") << three << "Off" << Levels() << Levels();
         QTest::newRow("from elsewhere") << QStringList{"125.00", "80"} << "1/1" << Levels() << Levels();
         QTest::newRow("no bands") << QStringList() << "1/1" << Levels() << Levels();
@@ -196,6 +199,39 @@ private slots:
         QTEST(levels(OctaveBands::Weighting::A), "a");
         QTEST(levels(OctaveBands::Weighting::C), "c");
         QCOMPARE(levels(OctaveBands::Weighting::Z).size(), list.size());
+    }
+
+    /// The pages reckon as the reports do.
+    void octavesOnPages_data() { octaves_data(); }
+    void octavesOnPages()
+    {
+        QFETCH(QStringList, bands);
+        QFETCH(QString, analysis);
+        QFile script(MORVANE_TEST_DATA "/../../qml/charts/octaves.js");
+        QVERIFY(script.open(QIODevice::ReadOnly));
+        QJSEngine engine;
+        QVERIFY(!engine.evaluate(QString::fromUtf8(script.readAll()).remove(".pragma library")).isError());
+        QVector<LeqPerOctave> list;
+        QStringList objects;
+        for (int i = 0; i < bands.size(); i += 2) {
+            const QString level = bands[i + 1] == "---" ? QString("0") : bands[i + 1];
+            list.append({{{}, bands[i], level}});
+            objects.append(QString("{frequency: '%1', leq: '%2'}").arg(bands[i], level));
+            const QString label = QString("label('%1', function (n, d) { return n.toFixed(d) })").arg(bands[i]);
+            QCOMPARE(engine.evaluate(label).toString(), OctaveBands::label(bands[i], QLocale::c()));
+        }
+        using Weighting = OctaveBands::Weighting;
+        for (const auto &[letter, weighting] : {std::pair{"Z", Weighting::Z}, {"A", Weighting::A}, {"C", Weighting::C}}) {
+            const QString call = QString("levels([%1], step('%2'), '%3')").arg(objects.join(','), analysis, letter);
+            Levels levels;
+            for (const QVariant &level : engine.evaluate(call).toVariant().toList())
+                levels.append(level.toDouble());
+            QCOMPARE(levels, OctaveBands::levels(list, OctaveBands::analysisOf(analysis), weighting));
+            for (int third = 0; third < 37 && weighting != Weighting::Z; ++third) {
+                const QString entry = QString("corrections.%1[%2] || 0").arg(letter).arg(third);
+                QCOMPARE(engine.evaluate(entry).toNumber(), OctaveBands::correction(weighting, third));
+            }
+        }
     }
 
     /// A flat spectrum of 80 dB in the octaves from 125 to 8000 Hz comes to 86.99 dB(A).

@@ -27,8 +27,9 @@ Item {
         width: 400
         height: 300
         model: [{ name: "one" }, { name: "two" }]
-        delegate: VfExperimentItem { text: modelData.name; checkable: true }
-        onListClicked: clicked = clicked.concat(indexItem)
+        checkable: true
+        delegate: VfExperimentItem { text: modelData.name }
+        onListClicked: { clicked = clicked.concat(indexItem); picked = [1] }
     }
 
     TestCase {

@@ -1,4 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-import "../../heatstress/qml"
+import "../../qml/pages"
 
-HeatStressExperimentItem {}
+VfListedExperiment {}

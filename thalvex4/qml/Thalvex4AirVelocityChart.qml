@@ -9,11 +9,8 @@ VfTimeChart {
     /// experiment: the parsed one; reading: the unit's part of a record.
     function populateSeries(experiment, reading) {
         var data = read(experiment, ["airVelocity"], reading)
-        var range = TimeChart.extremes(data.values)
         data.names = [qsTr("Air Velocity")]
-        data.low = range.low * 0.9
-        data.high = range.high * 1.1
-        show(data, (experiment.results || {}).sampleTime)
+        show(Object.assign(data, TimeChart.tenthAround(data.values)), (experiment.results || {}).sampleTime)
     }
 
     title: qsTr("Air Velocity x Time")

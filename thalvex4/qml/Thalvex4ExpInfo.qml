@@ -3,5 +3,5 @@ import QtQuick 2.15
 import "../../heatstress/qml"
 
 HeatStressExpInfo {
-    ownLines: [{ label: qsTr("Experiment") + ":", value: experiment.expName }]
+    ownLines: [{ label: qsTr("Experiment"), value: experiment.expName }]
 }

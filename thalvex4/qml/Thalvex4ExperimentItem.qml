@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-import "../../heatstress/qml"
+import "../../qml/pages"
 
-HeatStressExperimentItem {
-    ownLines: modelData.exp_Name === undefined ? [] : [{ text: modelData.exp_Name, width: 200 }]
-}
+VfListedExperiment {}

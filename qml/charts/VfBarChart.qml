@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import QtCharts 2.3
+import "../widgets"
+import "../widgets/texts.js" as Texts
+
+/// Bars over categories. What is pointed at, by the pointer or with left and right, is told in a note.
+FocusScope {
+    id: barChart
+
+    // Title, axis titles and suffix are markup: charts take every text for it.
+    property alias title: chart.title
+    property alias valueTitle: valueAxis.titleText
+    property alias categoryTitle: categoryAxis.titleText
+    property string valueSuffix
+    property color barColor: "#1db0da"
+    /// The categories stand upright, in smaller letters.
+    property bool dense: false
+    readonly property int pointSize: dense ? 10 : 12
+
+    property var labels: []
+    property var values: []
+    /// The bar that is pointed at, -1 for none.
+    property int current: -1
+    readonly property rect plot: chart.plotArea
+    readonly property real slot: plot.width / Math.max(1, values.length)
+
+    /// A value that is NaN has no bar; no bar ends above maximum.
+    function show(categories, numbers, maximum) {
+        forget()
+        bars.clear()
+        labels = categories
+        values = numbers
+        valueAxis.max = maximum
+        valueAxis.tickCount = Math.max(2, Math.min(11, maximum / 10 + 1))
+        categoryAxis.clear()
+        // Categories of one name would be one: marks that nobody sees tell them apart.
+        categoryAxis.categories = categories.map(function (label, i) { return label + new Array(i + 1).join("\u200b") })
+        bars.append("", numbers.map(function (value) { return isNaN(value) ? 0 : value }))
+        bars.at(0).color = barColor
+        bars.at(0).borderColor = "transparent"
+    }
+
+    function forget() {
+        hover.holdOn = false
+        current = -1
+    }
+
+    function pointAt(x) {
+        var place = Math.floor((x - plot.x) / slot)
+        if (!hover.holdOn)
+            current = place >= 0 && place < values.length ? place : -1
+    }
+
+    function step(by) {
+        hover.holdOn = false
+        if (values.length > 0)
+            current = current < 0 ? 0 : Math.max(0, Math.min(values.length - 1, current + by))
+    }
+
+    function hoverText() {
+        if (current < 0 || current >= values.length)
+            return ""
+        var value = values[current]
+        return labels[current] + "Hz<br>" + (isNaN(value) ? Texts.absent : value.toLocaleString(Qt.locale()) + valueSuffix)
+    }
+
+    activeFocusOnTab: true
+    Accessible.role: Accessible.Chart
+    Accessible.name: Texts.plain(title)
+    Accessible.description: Texts.plain(hover.y_text)
+    Keys.onLeftPressed: step(-1)
+    Keys.onRightPressed: step(1)
+    Keys.onSpacePressed: hover.holdOn = !hover.holdOn && current >= 0
+    Keys.onEscapePressed: forget()
+    Keys.onDeletePressed: forget()
+
+    ChartView {
+        id: chart
+
+        anchors.fill: parent
+        antialiasing: true
+        localizeNumbers: true
+        backgroundColor: Theme.ground
+        titleColor: Theme.text
+        titleFont: valueAxis.titleFont
+        legend.visible: false
+
+        BarSeries {
+            id: bars
+
+            axisX: BarCategoryAxis {
+                id: categoryAxis
+
+                gridVisible: false
+                labelsAngle: barChart.dense ? 80 : 0.001 // an angle keeps labels whole that are wider than their bar
+                labelsColor: Theme.text
+                labelsFont: Qt.font({ family: fontSans.name, pointSize: barChart.pointSize })
+                titleFont: valueAxis.titleFont
+            }
+            axisY: ValueAxis {
+                id: valueAxis
+
+                min: 0
+                labelFormat: "%.0f"
+                labelsColor: Theme.text
+                labelsFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize })
+                titleFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize, bold: true })
+            }
+        }
+    }
+
+    FocusFrame { anchors.margins: 0; shown: barChart.activeFocus }
+    VfSpoken { active: barChart.activeFocus; text: Texts.plain(hover.y_text) }
+
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        onPositionChanged: barChart.pointAt(mouseX)
+        onExited: if (!barChart.activeFocus && !hover.holdOn) barChart.forget()
+        onClicked: {
+            barChart.forceActiveFocus()
+            barChart.pointAt(mouse.x)
+            hover.holdOn = !hover.holdOn && barChart.current >= 0
+        }
+    }
+
+    ChartPointHover { id: hover }
+
+    // Bindings, for the note puts its old values back while it is held.
+    Binding { target: hover; property: "y_text"; value: barChart.hoverText() }
+    Binding { target: hover; property: "visible"; value: barChart.current >= 0 }
+    Binding {
+        target: hover
+        property: "x"
+        value: Math.max(0, Math.min(barChart.width - hover.width,
+                                    barChart.plot.x + (barChart.current + 0.5) * barChart.slot - hover.width / 2))
+    }
+    Binding {
+        target: hover
+        property: "y"
+        value: Math.max(0, barChart.plot.y + barChart.plot.height - hover.height - 6
+                        - barChart.plot.height * Math.max(0, barChart.values[barChart.current] || 0) / valueAxis.max)
+    }
+}
