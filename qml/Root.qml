@@ -3,11 +3,9 @@ import QtQuick 2.15
 import "widgets"
 import "pages"
 import "shell"
-import "../thalvex2/qml"
-import "../thalvex4/qml"
 import "shell/local.js" as Local
 
-/// The shell: all pages at once, of which the state shows one, and what all pages know of codes, numbers and dates.
+/// The shell: the pages, of which the state shows one, and what all pages know of codes, numbers and dates.
 Rectangle {
     readonly property int deviceDisconnected: -3
     readonly property int deviceBusy: -2
@@ -34,10 +32,10 @@ Rectangle {
     readonly property alias busy: waiting.busy
     readonly property alias busyText: waiting.text
 
-    /// The page and the state of each product that can be connected.
+    /// The pages of each product that can be connected.
     readonly property var families: ({
-        "THALVEX 2": { page: pageThalvex2, state: "Thalvex2State" },
-        "THALVEX 4": { page: pageThalvex4, state: "Thalvex4State" }
+        "THALVEX 2": thalvex2,
+        "THALVEX 4": thalvex4
     })
 
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
@@ -57,17 +55,17 @@ Rectangle {
     /// Shows the page of a connected product; one without a page changes nothing.
     function enterFamily(product) {
         if (product in families)
-            enter(families[product].page, families[product].state)
+            families[product].enter()
     }
 
     anchors.fill: parent
     color: Theme.ground
 
     states: [
-        PageState { name: "Thalvex2State"; page: pageThalvex2 },
-        PageState { name: "Thalvex2ResultsState"; page: pageThalvex2Results },
-        PageState { name: "Thalvex4State"; page: pageThalvex4 },
-        PageState { name: "Thalvex4ResultsState"; page: pageThalvex4Results }
+        PageState { name: "Thalvex2State"; page: thalvex2.page },
+        PageState { name: "Thalvex2ResultsState"; page: thalvex2.results },
+        PageState { name: "Thalvex4State"; page: thalvex4.page },
+        PageState { name: "Thalvex4ResultsState"; page: thalvex4.results }
     ]
 
     Rectangle {
@@ -99,30 +97,8 @@ Rectangle {
         anchors { left: boderLeft.right; right: parent.right; top: parent.top; bottom: parent.bottom }
 
         PageHome { id: pageHome; anchors.fill: parent }
-        PageThalvex2 {
-            id: pageThalvex2
-            anchors.fill: parent
-            visible: false
-            onDownloadError: dialogs.downloadFailDialog.open()
-        }
-        PageThalvex2Results {
-            id: pageThalvex2Results
-            anchors.fill: parent
-            visible: false
-            onShowResults: root.enter(this, "Thalvex2ResultsState")
-        }
-        PageThalvex4 {
-            id: pageThalvex4
-            anchors.fill: parent
-            visible: false
-            onDownloadError: dialogs.downloadFailDialog.open()
-        }
-        PageThalvex4Results {
-            id: pageThalvex4Results
-            anchors.fill: parent
-            visible: false
-            onShowResults: root.enter(this, "Thalvex4ResultsState")
-        }
+        FamilyPages { id: thalvex2; product: "THALVEX 2"; name: "Thalvex2" }
+        FamilyPages { id: thalvex4; product: "THALVEX 4"; name: "Thalvex4" }
 
         Image {
             anchors { right: parent.right; top: parent.top; margins: Theme.gap * 2 }

@@ -127,6 +127,7 @@ Item {
         }
 
         function showResults(product) {
+            core.devName = product
             core.experiment = JSON.stringify({ date: "21/03/05,14:30:00-12", deviceName: product, logList: [], results: {} })
             core.experimentUpdated(-3)
         }

@@ -170,7 +170,7 @@ void TestWindow::enter(const QString &product)
     QTRY_VERIFY((item = findInWindows(
                      has("serialNumber", QString::fromLatin1(instrument(product).inside().identity().serialNumber)))));
     click(item);
-    QTRY_VERIFY(experimentItem(1));
+    QTRY_VERIFY(experimentItem(1) && experimentItem(3));
 }
 
 QQuickItem *TestWindow::experimentItem(int index) const
