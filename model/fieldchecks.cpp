@@ -30,7 +30,8 @@ int FieldChecks::parse(int number, const QByteArray &answer)
 
 std::optional<double> FieldChecks::deviation() const
 {
-    if (pre == absentText() || pos == absentText())
-        return std::nullopt;
-    return double(pre.toFloat() - pos.toFloat());
+    bool hasPre = false;
+    bool hasPos = false;
+    const float difference = pre.toFloat(&hasPre) - pos.toFloat(&hasPos);
+    return hasPre && hasPos ? std::optional<double>(difference) : std::nullopt;
 }

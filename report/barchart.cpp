@@ -24,6 +24,8 @@ constexpr int AbovePlot = 24;
 constexpr int BelowPlot = 40;
 constexpr int BelowDensePlot = 62;
 
+constexpr double Furthest = 1e12; ///< where the axis of values ends, whatever a file says
+
 } // namespace
 
 void BarChart::setBars(const QStringList &categories, const QVector<double> &values, const QColor &color)
@@ -63,10 +65,13 @@ int BarChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal sc
     double lowest = 0;
     double highest = 0;
     for (const double value : m_values) {
-        lowest = std::min(lowest, value);
-        highest = std::max(highest, value);
+        lowest = std::min(lowest, std::max(value, -Furthest));
+        highest = std::max(highest, std::min(value, Furthest));
     }
-    const double step = highest - lowest > 100 ? 50 : 20;
+    const double range = highest - lowest;
+    double step = range > 100 ? 50 : 20;
+    while (range > 10 * step) // the axis would lay out every one of its labels
+        step *= 10;
     values->setRange(step * std::floor(lowest / step), step * std::ceil(highest / step + 0.5));
     values->setTickType(QValueAxis::TicksDynamic);
     values->setTickInterval(step);

@@ -5,6 +5,7 @@
 #include "report/barchart.h"
 #include "report/chartscene.h"
 #include "report/dates.h"
+#include "report/texts.h"
 #include "report/timechart.h"
 #include "report/values.h"
 #include "report/vfheadedtable.h"
@@ -17,7 +18,8 @@
 namespace {
 
 constexpr int ChartHeight = 150;
-constexpr int LongestName = 220; // pixels of a name in the table of measuring points
+constexpr int LongestName = 220;  // pixels of a name in the table of measuring points
+constexpr int LongestLevel = 12; // characters that find room in a column
 
 QString captionedText(const QString &caption, const QString &value)
 {
@@ -80,7 +82,7 @@ const SoundLevelResults &SoundLevelPrinter::resultsOf(const Experiment &experime
 
 QString SoundLevelPrinter::levelText(const QString &value)
 {
-    return value == QLatin1String("OL") ? value : formatNumber(numberOf(value), 2, 2);
+    return value == QLatin1String("OL") ? value : shortened(formatNumber(numberOf(value), 2, 2), LongestLevel);
 }
 
 QString SoundLevelPrinter::timeWeightingText(const QString &weighting)
@@ -206,6 +208,8 @@ void SoundLevelPrinter::drawConfiguration(const Experiment &experiment)
     };
     texts += configurationTexts(results);
     texts.append(captionedText(tr("Octave analysis"), results.octaveAnalysis()));
+    for (QString &text : texts)
+        text = text.simplified(); // of texts of many lines the box would run below the foot
     wholeSection(tr("Configuration"), [&] {
         for (int first = 0; first < texts.size(); first += columns)
             drawColumns(texts.mid(first, columns), columns);
@@ -219,11 +223,11 @@ void SoundLevelPrinter::drawFieldChecks(const Experiment &experiment)
     const FieldChecks &checks = resultsOf(experiment).fieldChecks();
     const CheckWords words = checkWords();
     const auto line = [this](const QString &caption, const QString &value, const QDateTime &when) {
-        if (value == QLatin1String("---"))
+        if (dashed(value) == absentText())
             return drawLine(caption + QLatin1String(" [dB]: --- "));
         const QDateTime local = when.toLocalTime();
         const QString moment = ::dateText(local.date()) + QLatin1Char(' ') + local.toString(QStringLiteral("hh:mm"));
-        drawLine(caption + QLatin1String(" [dB]: ") + value + QLatin1String(" (") + moment + QLatin1Char(')'));
+        drawLine(caption + QLatin1String(" [dB]: ") + value.simplified() + QLatin1String(" (") + moment + QLatin1Char(')'));
     };
     wholeSection(tr("Field ver. @ 1kHz"), [&] {
         if (m_ckbPreChk)
@@ -255,7 +259,7 @@ void SoundLevelPrinter::drawLevels(const QVector<Levels> &columns)
         }
         bottom = qMax(bottom, y);
     }
-    m_y = bottom;
+    m_y = bottom + m_vSpace; // indexes hang below their lines
 }
 
 // ---------------------------------------------------------------- charts

@@ -2,11 +2,13 @@
 // The reports of the sound level meters: sections by switches, overload, and pages that hold what stands on them.
 
 #include "app/fonts.h"
+#include "nembra/nembraexperiment.h"
 #include "nembra/nembraprinter.h"
 #include "nembraplus/nembraplusprinter.h"
 #include "tests/report/measurements.h"
 #include "tests/report/printedreport.h"
 
+#include <QJsonArray>
 #include <QTest>
 
 namespace {
@@ -189,6 +191,30 @@ private slots:
             QVERIFY2(text.contains(word), qPrintable(word + "\n" + text));
         for (const QString &word : qAsConst(absent))
             QVERIFY2(!text.contains(word), qPrintable(word + "\n" + text));
+    }
+
+    /// What a file says is not believed: the report is made, and stays on its pages.
+    void absurdFile()
+    {
+        QJsonObject object = chain(false, {})->toJson();
+        QJsonObject results = object["results"].toObject();
+        QJsonArray bands = results["leqList"].toArray();
+        bands.append(QJsonObject{{"frequency", "32000.00"}, {"leq", "1e9"}});
+        results["leqList"] = bands;
+        results["lEq"] = "1e300";
+        results["label"] = QString("x\n").repeated(190);
+        results.remove("preChk");
+        object["results"] = results;
+        NembraExperiment experiment;
+        experiment.fromJson(object);
+        const Printed printed(false, &experiment, all[false]);
+        QVERIFY2(!printed.text().contains("Desviate"), qPrintable(printed.text()));
+        for (const int page : {1, 2}) {
+            const qreal foot = printed.report.box("of", page).bottom();
+            const auto words = printed.report.words(page);
+            for (const PrintedReport::Word &word : words)
+                QVERIFY2(word.box.left() > -10 && word.box.right() < 610 && word.box.bottom() < foot + 5, qPrintable(word.text));
+        }
     }
 
     void withoutACertificate()
