@@ -203,6 +203,7 @@ Window {
                 onPicked: {
                     window.asked = fileName
                     window.set("fileName", fileName)
+                    warning.visible = false
                 }
             }
             MyButton {

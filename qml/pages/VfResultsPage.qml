@@ -100,29 +100,30 @@ VfPage {
     Binding {
         target: infoLoader.item
         property: "room"
-        value: page.width - actions.width - 3 * Theme.margin
+        value: page.width - generate.width - arrows.width - 4 * Theme.margin
     }
 
-    Row {
-        id: actions
+    MyButton {
+        id: generate
 
         anchors { left: infoLoader.right; verticalCenter: infoLoader.verticalCenter; leftMargin: Theme.margin }
+        buttonLabel: qsTr("Generate report")
+        onMyButtonclicked: page.openReport()
+    }
+
+    // Each arrow in a place of its own that no experiment's data move: clicks on one spot go one way, whatever is shown.
+    Row {
+        id: arrows
+
+        anchors { right: parent.right; verticalCenter: infoLoader.verticalCenter; rightMargin: Theme.margin }
         spacing: Theme.spacing
 
-        MyButton {
-            anchors.verticalCenter: parent.verticalCenter
-            buttonLabel: qsTr("Generate report")
-            onMyButtonclicked: page.openReport()
-        }
-        // Each arrow in a place of its own: clicks on one spot go one way, also when the other arrow comes or goes.
         Item {
-            anchors.verticalCenter: parent.verticalCenter
             implicitWidth: previous.implicitWidth
             implicitHeight: previous.implicitHeight
             Arrow { id: previous; backward: true; onMyImgBtnClicked: core.prevExp() }
         }
         Item {
-            anchors.verticalCenter: parent.verticalCenter
             implicitWidth: next.implicitWidth
             implicitHeight: next.implicitHeight
             Arrow { id: next; onMyImgBtnClicked: core.nextExp() }

@@ -50,6 +50,7 @@ Item {
         id: dialog
 
         sourceComponent: FileDialog {
+            title: qsTr("Save file as")
             nameFilters: chooser.nameFilters
             selectExisting: false
             onAccepted: chooser.pick(fileUrl)

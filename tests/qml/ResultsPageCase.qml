@@ -285,14 +285,14 @@ Item {
             compare(core.calls, calls)
         }
 
-        /// Clicks on one spot walk along a chain, whichever arrows are there.
+        /// Clicks on one spot walk along a chain, whichever arrows are there and however long the data beside them.
         function test_arrowsKeepTheirPlaces() {
             show(-2)
             drawn(made)
             var next = Items.first(made, "label", "Next experiment")
             var spot = next.mapToItem(made, next.width / 2, next.height / 2);
-            [-2, 0, 0, 0, -1].forEach(function (position) {
-                core.resultsUpdated(position)
+            [-2, 0, 0, 0, -1].forEach(function (position, i) {
+                show(position, function (experiment) { experiment.results.duration += "0".repeat(40 * (i % 2)) })
                 drawn(made)
                 mouseClick(made, spot.x, spot.y)
             })
