@@ -12,5 +12,6 @@ MyImageButton {
     imgbtnpicclicked: picture + "clicked.png"
     label: backward ? qsTr("Previous experiment") : qsTr("Next experiment")
     visible: false
+    onDoubleClicked: myImgBtnClicked() // each of many quick clicks is a step
     enabled: visible // nor has it the keyboard while hidden
 }

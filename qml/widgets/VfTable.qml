@@ -33,8 +33,8 @@ C1.TableView {
         model = 0
         rows = list
         model = list.length
-        if (list.length > 0)
-            positionViewAtRow(0, ListView.Beginning)
+        // A table that is filled out of sight is laid out when it comes into sight; only then it knows of its head.
+        Qt.callLater(__listView.positionViewAtBeginning)
     }
 
     /// What a row says, column by column.
