@@ -103,10 +103,7 @@ private slots:
     void pages();
     void wholeReport_data();
     void wholeReport();
-    void headsOfTheTable_data();
-    void headsOfTheTable();
     void tableOverMidnight();
-    void resultsSideBySide();
     void decimalComma();
     void csv_data();
     void csv();
@@ -263,35 +260,6 @@ void TestReportHeatStress::wholeReport()
         QCOMPARE(overlaps(printed.report.words(page)), QStringList());
 }
 
-void TestReportHeatStress::headsOfTheTable_data()
-{
-    QTest::addColumn<int>("index");
-    QTest::addColumn<int>("page");
-    QTest::addColumn<QString>("subscript");
-    QTest::newRow("2: capital") << 0 << 2 << "Globe";
-    QTest::newRow("4: small") << 1 << 3 << "globe";
-}
-
-void TestReportHeatStress::headsOfTheTable()
-{
-    QFETCH(int, index);
-    QFETCH(int, page);
-    QFETCH(QString, subscript);
-    const ExperimentChain experiment = family(index).measure({});
-    const Printed printed(family(index), experiment.get(), tableKeys);
-    // a subscript may come as a word of its own or joined to its base; its box tells by the height
-    const QVector<PrintedReport::Word> words = printed.report.words(page);
-    const auto index_ = std::find_if(words.cbegin(), words.cend(), [&](const auto &w) { return w.text == subscript; });
-    QVERIFY2(index_ != words.cend(), qPrintable(printed.report.text(page)));
-    const QRectF first = printed.report.box(QStringLiteral("Idx"), page);
-    QVERIFY(index_->box.height() < first.height());
-    QVERIFY(index_->box.center().y() > first.center().y() + 1);
-    QVERIFY(index_->box.bottom() < printed.report.box(QStringLiteral("001"), page).top() + 2);
-    // columns stand where the heads do
-    const QRectF value = printed.report.box(QStringLiteral("34.2"), page);
-    QVERIFY(qAbs(value.center().x() - index_->box.center().x()) < 12);
-}
-
 void TestReportHeatStress::tableOverMidnight()
 {
     Course course;
@@ -303,23 +271,6 @@ void TestReportHeatStress::tableOverMidnight()
     const QString text = printed.report.text(2);
     QVERIFY(text.contains(QLatin1String("23:59:00")) && text.contains(QLatin1String("00:00:00")));
     QVERIFY(!text.contains(QLatin1String("2019")));
-}
-
-void TestReportHeatStress::resultsSideBySide()
-{
-    const ExperimentChain experiment = Measurements::thalvex2({});
-    const Printed both(family(0), experiment.get(), {"ckbMaxMin", "ckbAvg"});
-    const Printed averages(family(0), experiment.get(), {"ckbAvg"});
-    const double five = (604 + 1 - 6) / 5 + 3;
-    const double two = (604 + 1 - 6) / 2 + 3;
-    QVERIFY(qAbs(both.report.box(QStringLiteral("WBGTo")).left() - (3 + 3 * five)) < 2);
-    QVERIFY(qAbs(both.report.box(QStringLiteral("WBGTi")).left() - (3 + 4 * five)) < 2);
-    QVERIFY(qAbs(averages.report.box(QStringLiteral("WBGTo")).left() - 3) < 2);
-    QVERIFY(qAbs(averages.report.box(QStringLiteral("WBGTi")).left() - (3 + two)) < 2);
-
-    const ExperimentChain units = Measurements::thalvex4({});
-    const Printed packed(family(1), units.get(), {"ckbResults", "ckbIBUTGeResults"});
-    QVERIFY(qAbs(packed.report.box(QStringLiteral("WBGTo"), 2).left() - 3) < 2); // packed from the left
 }
 
 void TestReportHeatStress::decimalComma()
