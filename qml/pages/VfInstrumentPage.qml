@@ -24,6 +24,8 @@ VfPage {
 
     /// Positions in the list of what is to be downloaded.
     property var selectedIdx: []
+    /// When the progress bar was last moved.
+    property double painted: 0
     readonly property alias dialogs: dialogs
     readonly property alias replaceQuestion: replaceQuestion
     readonly property alias list: list
@@ -181,8 +183,14 @@ VfPage {
     Connections {
         target: core
         function onProgressBarUpdated(progressed) {
-            if (core.devName === page.productName)
-                progress.value = progressed
+            if (core.devName !== page.productName)
+                return
+            // Ten frames in a second: one for each answer would hold up the next.
+            var now = Date.now()
+            if (progressed > 0 && progressed < 100 && now - page.painted < 100)
+                return
+            page.painted = now
+            progress.value = progressed
         }
         function onDeviceDisconnected() {
             if (configurationLoader.item)

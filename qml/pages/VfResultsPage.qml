@@ -27,6 +27,12 @@ VfPage {
 
     signal showResults()
 
+    /// Makes what an experiment will be shown with.
+    function prepare() {
+        viewLoader.active = true
+        infoLoader.active = true
+    }
+
     /// A family hands the experiment to its view, which has a function forget() too.
     function fill(parsed) {}
 
@@ -61,8 +67,7 @@ VfPage {
             return dialogs.invalidFileDialog.open()
         previous.visible = position === root.expLastItem || position === root.expMiddleItem
         next.visible = position === root.expFirstItem || position === root.expMiddleItem
-        viewLoader.active = true
-        infoLoader.active = true
+        prepare()
         infoItem.experiment = experiment
         fill(experiment)
         showResults()

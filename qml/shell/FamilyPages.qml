@@ -18,13 +18,19 @@ Item {
         if (!page)
             pageLoader.setSource(folder + ".qml", { visible: false })
         root.enter(page, name + "State")
+        soon.start()
+    }
+
+    function makeResults() {
+        if (!results)
+            resultsLoader.setSource(folder + "Results.qml", { visible: false })
     }
 
     /// A page that is there hears of experiments by itself.
     function look(position) {
         if (results || core.devName !== product)
             return
-        resultsLoader.setSource(folder + "Results.qml", { visible: false })
+        makeResults()
         results.update(position)
     }
 
@@ -32,6 +38,9 @@ Item {
 
     Loader { id: pageLoader; anchors.fill: parent }
     Loader { id: resultsLoader; anchors.fill: parent }
+
+    // Who looks at an instrument will want results: they are made while the user looks, not behind a download.
+    Timer { id: soon; interval: 200; onTriggered: { family.makeResults(); family.results.prepare() } }
 
     Connections {
         target: family.page

@@ -15,7 +15,7 @@ ProgressBar {
     background: MyRec { color: Theme.quietGround }
     contentItem: Item {
         Rectangle {
-            width: Math.round(100 * bar.visualPosition) / 100 * parent.width  // a frame for each percent, not for each answer
+            width: bar.visualPosition * parent.width
             height: parent.height
             color: Theme.strip
             radius: Theme.radius
