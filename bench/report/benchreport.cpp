@@ -2,6 +2,8 @@
 // Speed of reports, as ratios to floors that are measured in the same run. Times are processor times, medians.
 #include "app/fonts.h"
 #include "model/log.h"
+#include "nembra/nembralog.h"
+#include "nembra/nembraprinter.h"
 #include "report/fonts.h"
 #include "report/timechart.h"
 #include "tests/report/measurements.h"
@@ -68,10 +70,16 @@ ExperimentChain measurement(ExperimentChain (*measure)(const Measurements::Cours
     return measure(course);
 }
 
+ExperimentChain levelsOf(int samples)
+{
+    return measurement([](const Measurements::Course &course) { return Measurements::nembra({course}); }, samples);
+}
+
 const char *const table[] = {"ckbTable",          "ckbDryTempTable", "ckbWetTempTable",
                              "ckbGlobeTempTable", "ckbIBUTGiTable",  "ckbIBUTGeTable"};
 const char *const chart[] = {"ckbChart",          "ckbDryTempChart", "ckbWetTempChart",
                              "ckbGlobeTempChart", "ckbIBUTGiChart",  "ckbIBUTGeChart"};
+const char *const levelChart[] = {"ckbChartLvl"};
 
 template <class Keys> QJsonObject on(const Keys &keys)
 {
@@ -94,17 +102,27 @@ template <class Printer> void print(Experiment *first, QJsonObject choices, cons
         qFatal("the report can't be completed");
 }
 
-/// The texts of a log table's rows, and nothing but a glyph run for each of them.
-double glyphRuns(const Experiment *experiment, int repetitions, const QString &path)
+QStringList cellsOf(const Log *log, const Thalvex2Printer *)
+{
+    const auto *sample = static_cast<const Thalvex2Log *>(log);
+    return {sample->dryTemperature(), sample->wetTemperature(), sample->globeTemperature(), sample->IBUTGi(),
+            sample->IBUTGe()};
+}
+
+QStringList cellsOf(const Log *log, const NembraPrinter *)
+{
+    return {static_cast<const NembraLog *>(log)->level()};
+}
+
+/// The texts of the rows of a log table of \a Printer, and nothing but a glyph run for each of them.
+template <class Printer> double glyphRuns(const Experiment *experiment, int repetitions, const QString &path)
 {
     QVector<QStringList> rows;
     const QList<Log *> logs = experiment->logs();
-    for (const Log *log : logs) {
-        const auto *sample = static_cast<const Thalvex2Log *>(log);
-        rows.append({QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
-                     log->registerDate().toString(QStringLiteral("hh:mm:ss")), sample->dryTemperature(),
-                     sample->wetTemperature(), sample->globeTemperature(), sample->IBUTGi(), sample->IBUTGe()});
-    }
+    for (const Log *log : logs)
+        rows.append(QStringList{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
+                                log->registerDate().toString(QStringLiteral("hh:mm:ss"))} +
+                    cellsOf(log, static_cast<const Printer *>(nullptr)));
     return median(repetitions, [&] {
         QPrinter printer(QPrinter::ScreenResolution);
         printer.setResolution(96);
@@ -134,24 +152,33 @@ double glyphRuns(const Experiment *experiment, int repetitions, const QString &p
     });
 }
 
+/// Tells what a row of the log table costs the report of \a experiment, in microseconds.
+template <class Printer>
+void tableRow(const QString &what, Experiment *experiment, double floor, int repetitions, int units, const QString &path)
+{
+    const double bare = median(repetitions, [&] { print<Printer>(experiment, {}, path); });
+    const double whole = median(repetitions, [&] { print<Printer>(experiment, on(table), path); });
+    const int samples = experiment->size();
+    row(what, 1000 * floor / samples, 1000 * (whole - bare) / samples / units, "us", "<= 1.4");
+}
+
 void benchTable(const QString &path)
 {
     for (const int samples : {10000, day}) {
         const int repetitions = samples == day ? 3 : 5;
         const ExperimentChain experiment = measurement(Measurements::thalvex2, samples);
-        const double floor = glyphRuns(experiment.get(), repetitions, path);
-        const double bare = median(repetitions, [&] { print<Thalvex2Printer>(experiment.get(), {}, path); });
-        const double whole = median(repetitions, [&] { print<Thalvex2Printer>(experiment.get(), on(table), path); });
-        row(QStringLiteral("log table, a row of 7 cells, %1 rows").arg(samples), 1000 * floor / samples,
-            1000 * (whole - bare) / samples, "us", "<= 1.4");
+        const double floor = glyphRuns<Thalvex2Printer>(experiment.get(), repetitions, path);
+        tableRow<Thalvex2Printer>(QStringLiteral("log table, a row of 7 cells, %1 rows").arg(samples), experiment.get(),
+                                  floor, repetitions, 1, path);
         if (samples == day)
             continue;
         const ExperimentChain units = measurement(Measurements::thalvex4, samples, 3);
-        const double bareUnits = median(repetitions, [&] { print<Thalvex4Printer>(units.get(), {}, path); });
-        const double wholeUnits = median(repetitions, [&] { print<Thalvex4Printer>(units.get(), on(table), path); });
-        row(QStringLiteral("the same of the larger meter, 4 units"), 1000 * floor / samples,
-            1000 * (wholeUnits - bareUnits) / samples / 4, "us", "<= 1.4");
+        tableRow<Thalvex4Printer>(QStringLiteral("the same of the larger meter, 4 units"), units.get(), floor,
+                                  repetitions, 4, path);
     }
+    const ExperimentChain levels = levelsOf(day);
+    tableRow<NembraPrinter>(QStringLiteral("the same of levels, a row of 3 cells, %1 rows").arg(day), levels.get(),
+                            glyphRuns<NembraPrinter>(levels.get(), 3, path), 3, 1, path);
 }
 
 void benchChart(const QString &path)
@@ -168,6 +195,11 @@ void benchChart(const QString &path)
     const double floorOfUnits = median(5, [&] { print<Thalvex4Printer>(fewOfUnits.get(), on(chart), path); });
     const double ofUnits = median(3, [&] { print<Thalvex4Printer>(manyOfUnits.get(), on(chart), path); });
     row(QStringLiteral("the same of the larger meter, 4 units"), floorOfUnits, ofUnits, "ms", "<= 3 (floor: 1,000)");
+    const ExperimentChain fewLevels = levelsOf(1000);
+    const ExperimentChain manyLevels = levelsOf(day);
+    const double floorOfLevels = median(9, [&] { print<NembraPrinter>(fewLevels.get(), on(levelChart), path); });
+    const double ofLevels = median(5, [&] { print<NembraPrinter>(manyLevels.get(), on(levelChart), path); });
+    row(QStringLiteral("the same of levels, 1 curve"), floorOfLevels, ofLevels, "ms", "<= 3 (floor: 1,000)");
 }
 
 /// The page with five curves of noise, drawn with all points or with few.
