@@ -154,7 +154,9 @@ int Device::sendSetting(const Order &order)
     const int code = this->order("AT+" + order.command + '=' + order.value + "\r\n", "\r\n+" + order.command + ": ");
     if (code != DeviceSuccessful || !order.readBack)
         return code;
-    const Reply kept = query("AT+" + order.command + "?\r\n", "\r\n+" + order.command + ": ");
+    if (sendCommand("AT+" + order.command + "?\r\n") != 0)
+        return DeviceDisconnected;
+    const Reply kept = sortReply(readResponse(), "\r\n+" + order.command + ": ", Match::End);
     return kept.code == DeviceSuccessful && kept.data == order.value ? DeviceSuccessful : DeviceError;
 }
 
