@@ -4,13 +4,11 @@
 #include "link/reply.h"
 
 #include <QCoreApplication>
-#include <QElapsedTimer>
 
 namespace {
 
-constexpr qint64 Millisecond = 1000 * 1000; // in nanoseconds
-constexpr qint64 SilenceLimit = 500 * Millisecond;
-constexpr qint64 LongestTurn = 20 * Millisecond;
+constexpr qint64 SilenceLimit = 500; // milliseconds, restarted by every arrival
+constexpr int LastLooks = 3;         // turns of the event loop, behind the limit
 
 bool endsAnswer(const QByteArray &bytes)
 {
@@ -69,24 +67,24 @@ void Interface::resume()
 void Interface::readData()
 {
     m_buffer += m_port->readAll().left(LongestAnswer - m_buffer.size());
-    m_silence = 0;
+    m_lastActivity.start();
     m_responseComplete = endsAnswer(m_buffer);
 }
 
 // The spin costs a core while it waits, and is the fastest way to the next byte; pumping the event loop is what keeps
-// the window alive during a download. A turn in which the window was busy counts little, for an answer that came
-// meanwhile is only found by the next one.
+// the window alive during a download. The window may have been busy for longer than the limit in the last turn: an answer
+// that came meanwhile is found by looking once more.
 QByteArray Interface::read(int longest)
 {
     if (m_waiting)
         return {};
     m_waiting = true;
-    m_silence = 0;
-    QElapsedTimer turn;
-    while (m_port && !m_cancelled && !m_responseComplete && m_silence < SilenceLimit && m_buffer.size() < longest) {
-        turn.start();
+    m_lastActivity.start();
+    for (int looks = 0; m_port && !m_cancelled && !m_responseComplete && m_buffer.size() < longest;) {
+        looks = m_lastActivity.elapsed() < SilenceLimit ? 0 : looks + 1;
+        if (looks > LastLooks)
+            break;
         QCoreApplication::processEvents();
-        m_silence += qMin(turn.nsecsElapsed(), LongestTurn);
     }
     m_waiting = false;
     QByteArray result;

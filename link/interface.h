@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QElapsedTimer>
 #include <QObject>
 #include <QSerialPort>
 
@@ -60,7 +61,7 @@ private:
     int m_linkType = 0;
     std::unique_ptr<QSerialPort> m_port;
     QString m_portName;
-    qint64 m_silence = 0; ///< nanoseconds since the last arrival in which the port was looked at
+    QElapsedTimer m_lastActivity;
     QMetaObject::Connection m_errorConnection;
     QMetaObject::Connection m_readConnection;
 };
