@@ -1,14 +1,15 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/octavebands.h"
 
+#include <QtNumeric>
+
 #include <array>
 #include <cmath>
 #include <optional>
 
 namespace {
 
-constexpr int Thirds = 36;
-using Corrections = std::array<double, Thirds>;
+using Corrections = std::array<double, OctaveBands::Thirds>;
 
 constexpr Corrections curveA = {-70.4, -63.4, -56.7, -50.5, -44.7, -39.4, -34.6, -30.2, -26.2, -22.5, -19.1, -16.1,
                                 -13.4, -10.9, -8.6,  -6.6,  -4.8,  -3.2,  -1.9,  -0.8,  0.0,   0.6,   1.0,   1.2,
@@ -56,8 +57,11 @@ QVector<double> OctaveBands::levels(const QVector<LeqPerOctave> &bands, Analysis
         return {};
     const int step = analysis == Analysis::Octave ? 3 : 1;
     QVector<double> levels;
-    for (int band = 0; band < bands.size(); ++band)
-        levels.append(twoDecimals(bands[band].leq().toDouble()) + correction(weighting, start.value_or(0) + band * step));
+    for (int band = 0; band < bands.size(); ++band) {
+        bool measured = false;
+        const double level = bands[band].leq().toDouble(&measured);
+        levels.append(measured ? twoDecimals(level) + correction(weighting, start.value_or(0) + band * step) : qQNaN());
+    }
     return levels;
 }
 

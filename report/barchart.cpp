@@ -30,8 +30,14 @@ constexpr double Furthest = 1e12; ///< where the axis of values ends, whatever a
 
 void BarChart::setBars(const QStringList &categories, const QVector<double> &values, const QColor &color)
 {
-    m_categories = categories;
-    m_values = values;
+    m_categories = values.isEmpty() ? categories : QStringList();
+    m_values.clear();
+    for (int i = 0; i < values.size(); ++i) {
+        if (!std::isfinite(values[i])) // the bars behind it would move to the category before theirs
+            continue;
+        m_categories.append(categories[i]);
+        m_values.append(values[i]);
+    }
     m_color = color;
 }
 
@@ -57,7 +63,10 @@ int BarChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal sc
     chart->addSeries(series);
 
     auto *categories = new QBarCategoryAxis;
-    categories->append(m_categories);
+    for (int i = 0; i < m_categories.size(); ++i) { // of two categories of one name the axis would leave one out
+        const bool again = m_categories.indexOf(m_categories[i]) < i;
+        categories->append(again ? m_categories[i] + QStringLiteral("<i></i>").repeated(i) : m_categories[i]);
+    }
     scene.addAxis(categories, Qt::AlignBottom, m_categoryTitle, m_font);
     auto *values = new QValueAxis;
     scene.addAxis(values, Qt::AlignLeft, m_valueTitle, m_font);

@@ -303,14 +303,15 @@ void SoundLevelPrinter::drawOctaveChart(const SoundLevelResults &results, Octave
     const auto analysis = OctaveBands::analysisOf(results.octaveAnalysis());
     const bool thirds = analysis == OctaveBands::Analysis::Third;
     const QString symbol = QStringLiteral("L<sub>%1eq</sub>").arg(letter(curve));
+    const QVector<LeqPerOctave> bands = results.leqList().mid(0, OctaveBands::Thirds); // a file may tell of more
     QStringList labels;
-    for (const LeqPerOctave &band : results.leqList())
+    for (const LeqPerOctave &band : bands)
         labels.append(OctaveBands::label(band.frequency));
     BarChart chart(m_chartFont);
     chart.setTitle(symbol + QLatin1String(" x ") + (thirds ? tr("1/3 Octave") : tr("Octave")));
     chart.setCategoryTitle(tr("Frequency [Hz]"));
     chart.setValueTitle(symbol + QLatin1String(" [dB]"));
-    chart.setBars(labels, OctaveBands::levels(results.leqList(), analysis, curve), colour(curve));
+    chart.setBars(labels, OctaveBands::levels(bands, analysis, curve), colour(curve));
     chart.setDense(thirds);
     placeChart(chart, ChartHeight);
 }

@@ -199,7 +199,8 @@ private slots:
         QJsonObject object = chain(false, {})->toJson();
         QJsonObject results = object["results"].toObject();
         QJsonArray bands = results["leqList"].toArray();
-        bands.append(QJsonObject{{"frequency", "32000.00"}, {"leq", "1e9"}});
+        for (const char *leq : {"1e9", "OL"})
+            bands.prepend(QJsonObject{{"frequency", "63.00"}, {"leq", leq}});
         results["leqList"] = bands;
         results["lEq"] = "1e300";
         results["label"] = QString("x\n").repeated(190);
@@ -209,6 +210,8 @@ private slots:
         experiment.fromJson(object);
         const Printed printed(false, &experiment, all[false]);
         QVERIFY2(!printed.text().contains("Desviate"), qPrintable(printed.text()));
+        const QString charts = printed.text(printed.report.pages()); // no bar without a level, and each in its place
+        QVERIFY2(charts.contains("63 31.5 63 125"), qPrintable(charts));
         for (const int page : {1, 2}) {
             const qreal foot = printed.report.box("of", page).bottom();
             const auto words = printed.report.words(page);
