@@ -13,6 +13,15 @@ VfPage {
     readonly property alias warningText: warningText.text
     readonly property alias about: about.item
     readonly property alias openFileDialog: openFile.item
+    readonly property string processing: qsTr("Processing file") + "..."
+
+    /// Says so first: the reading of a file leaves no time to paint.
+    function readFile(urls) {
+        if (root.busy)
+            return
+        warningText.text = processing
+        root.wait("", function () { core.parseFile(urls) }, function () { warningText.text = "" })
+    }
 
     /// Begins a session with an instrument of the list; the first step that fails ends it.
     function openDevice(index) {
@@ -89,7 +98,7 @@ VfPage {
             modality: Qt.NonModal
             nameFilters: [qsTr("Suite Morvane Files ") + "(*.tvx *.tv4 *.adl *.lmt *.nbr *.nbp *.zlk)",
                           qsTr("All files ") + "(*)"]
-            onAccepted: root.wait("", function () { core.parseFile(openFileDialog.fileUrls) })
+            onAccepted: page.readFile(openFileDialog.fileUrls)
         }
     }
 
@@ -106,7 +115,7 @@ VfPage {
             warningText.text = qsTr("Looking for instruments") + " [" + progress.toFixed(2) + " %]"
         }
         function onFindDeviceFinished() { warningText.text = "" }
-        function onFileReadStarted() { warningText.text = qsTr("Processing file") + "..." }
+        function onFileReadStarted() { warningText.text = page.processing }
         function onFileReadFinished() { warningText.text = "" }
         function onInvalidFile() { dialogs.invalidFileDialog.open() }
     }
