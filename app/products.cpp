@@ -1,6 +1,22 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/products.h"
 
+#include "nembra/nembra.h"
+#include "nembra/nembraconfig.h"
+#include "nembra/nembraexperiment.h"
+#include "nembra/nembraexposurecomponent.h"
+#include "nembra/nembrafile.h"
+#include "nembra/nembralog.h"
+#include "nembra/nembraprinter.h"
+#include "nembra/nembraresults.h"
+#include "nembraplus/nembraplus.h"
+#include "nembraplus/nembraplusconfig.h"
+#include "nembraplus/nembraplusexperiment.h"
+#include "nembraplus/nembraplusexposurecomponent.h"
+#include "nembraplus/nembraplusfile.h"
+#include "nembraplus/nembrapluslog.h"
+#include "nembraplus/nembraplusprinter.h"
+#include "nembraplus/nembraplusresults.h"
 #include "thalvex2/thalvex2.h"
 #include "thalvex2/thalvex2config.h"
 #include "thalvex2/thalvex2experiment.h"
@@ -26,6 +42,10 @@ const Product products[] = {
         "THALVEX 2", ".tvx"),
     productOf<Thalvex4, Thalvex4Config, Thalvex4Experiment, Thalvex4File, Thalvex4Log, Thalvex4Printer, Thalvex4Results>(
         "THALVEX 4", ".tv4"),
+    productOf<Nembra, NembraConfig, NembraExperiment, NembraFile, NembraLog, NembraPrinter, NembraResults,
+              NembraExposureComponent>("NEMBRA", ".nbr"),
+    productOf<NembraPlus, NembraPlusConfig, NembraPlusExperiment, NembraPlusFile, NembraPlusLog, NembraPlusPrinter,
+              NembraPlusResults, NembraPlusExposureComponent>("NEMBRA+", ".nbp"),
 };
 
 template <class Predicate> const Product *productWhere(Predicate predicate)

@@ -35,7 +35,9 @@ Rectangle {
     /// The pages of each product that can be connected.
     readonly property var families: ({
         "THALVEX 2": thalvex2,
-        "THALVEX 4": thalvex4
+        "THALVEX 4": thalvex4,
+        "NEMBRA": nembra,
+        "NEMBRA+": nembraPlus
     })
 
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
@@ -65,7 +67,11 @@ Rectangle {
         PageState { name: "Thalvex2State"; page: thalvex2.page },
         PageState { name: "Thalvex2ResultsState"; page: thalvex2.results },
         PageState { name: "Thalvex4State"; page: thalvex4.page },
-        PageState { name: "Thalvex4ResultsState"; page: thalvex4.results }
+        PageState { name: "Thalvex4ResultsState"; page: thalvex4.results },
+        PageState { name: "NembraState"; page: nembra.page },
+        PageState { name: "NembraResultsState"; page: nembra.results },
+        PageState { name: "NembraPlusState"; page: nembraPlus.page },
+        PageState { name: "NembraPlusResultsState"; page: nembraPlus.results }
     ]
 
     Rectangle {
@@ -99,6 +105,8 @@ Rectangle {
         PageHome { id: pageHome; anchors.fill: parent }
         FamilyPages { id: thalvex2; product: "THALVEX 2"; name: "Thalvex2" }
         FamilyPages { id: thalvex4; product: "THALVEX 4"; name: "Thalvex4" }
+        FamilyPages { id: nembra; product: "NEMBRA"; name: "Nembra" }
+        FamilyPages { id: nembraPlus; product: "NEMBRA+"; name: "NembraPlus"; entered: nembra.page } // meant
 
         Image {
             anchors { right: parent.right; top: parent.top; margins: Theme.gap * 2 }

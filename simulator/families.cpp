@@ -10,6 +10,8 @@ const QVector<SimulatedFamily> &families()
          [](quint32 seed, int expansions, const Memory &memory) {
              return simulatedThalvex4(seed, expansions, memory);
          }},
+        {"nembra", [](quint32 seed, int, const Memory &memory) { return simulatedNembra(seed, memory); }},
+        {"nembraplus", [](quint32 seed, int, const Memory &memory) { return simulatedNembraPlus(seed, memory); }},
     };
     return rows;
 }

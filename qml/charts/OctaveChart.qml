@@ -10,7 +10,7 @@ Item {
     /// Bands {frequency, leq}, low to high, and the third octaves from one to the next (octaves.js).
     property var bands: []
     property var step: undefined
-    readonly property string curve: ["Z", "A", "C"][curves.choices.indexOf(curves.value)] || "Z"
+    readonly property alias curve: curves.value
     readonly property alias chart: bars
 
     /// Shows what was measured. What a file tells beyond the third octaves that there are is no spectrum.
@@ -18,7 +18,7 @@ Item {
         bands = measured.slice(0, Octaves.corrections.A.length)
         step = thirds
         bars.dense = thirds === 1
-        curves.value = curves.choices[0]
+        curves.value = "Z"
         draw()
     }
 
@@ -39,8 +39,9 @@ Item {
         anchors { top: parent.top; horizontalCenter: parent.horizontalCenter }
         columns: 3
         name: qsTr("Curve")
-        choices: [qsTr("Z Curve"), qsTr("A Curve"), qsTr("C Curve")]
-        value: choices[0]
+        choices: ["Z", "A", "C"]
+        texts: [qsTr("Z Curve"), qsTr("A Curve"), qsTr("C Curve")]
+        value: "Z"
     }
     VfBarChart {
         id: bars

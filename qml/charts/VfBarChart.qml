@@ -65,6 +65,7 @@ FocusScope {
         return labels[current] + "Hz<br>" + (isNaN(value) ? Texts.absent : value.toLocaleString(Qt.locale()) + valueSuffix)
     }
 
+    onBarColorChanged: if (bars.count > 0) bars.at(0).color = barColor
     activeFocusOnTab: true
     Accessible.role: Accessible.Chart
     Accessible.name: Texts.plain(title)
@@ -97,6 +98,7 @@ FocusScope {
                 labelsColor: Theme.text
                 labelsFont: Qt.font({ family: fontSans.name, pointSize: barChart.pointSize })
                 titleFont: valueAxis.titleFont
+                titleVisible: barChart.values.length > 0 // without categories it has no place
             }
             axisY: ValueAxis {
                 id: valueAxis
@@ -116,6 +118,7 @@ FocusScope {
     MouseArea {
         anchors.fill: parent
         hoverEnabled: true
+        onEntered: barChart.pointAt(mouseX)
         onPositionChanged: barChart.pointAt(mouseX)
         onExited: if (!barChart.activeFocus && !hover.holdOn) barChart.forget()
         onClicked: {

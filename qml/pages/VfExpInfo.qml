@@ -14,13 +14,12 @@ VfFrame {
     /// What the page has beside its buttons.
     property real room: 900
 
-    /// An instrument's date text as a day, or as a moment.
-    function dayText(date) { return read(date, "toLocaleDateString") }
-    function momentText(date) { return read(date, "toLocaleString") }
-
-    function read(date, conversion) {
+    /// The day of an instrument's date text, and with clock the minute too.
+    function dayText(date, clock) {
         var moment = root.convertDateTimeATToLocalTimeString(date || "")
-        return moment && !isNaN(moment) ? moment[conversion](Qt.locale(), Locale.ShortFormat) : Texts.absent
+        if (!moment || isNaN(moment))
+            return Texts.absent
+        return moment.toLocaleDateString(Qt.locale(), Locale.ShortFormat) + (clock ? Qt.formatTime(moment, " hh:mm") : "")
     }
 
     Grid {

@@ -12,12 +12,14 @@ Item {
     readonly property string folder: "../../" + name.toLowerCase() + "/qml/Page" + name
     readonly property Item page: pageLoader.item
     readonly property Item results: resultsLoader.item
+    /// The page that is told from where the instrument's was entered.
+    property Item entered: page
 
     /// Shows the page of the instrument.
     function enter() {
         if (!page)
             pageLoader.setSource(folder + ".qml", { visible: false })
-        root.enter(page, name + "State")
+        root.enter(entered || page, name + "State")
         soon.start()
     }
 

@@ -47,6 +47,7 @@ Item {
 
             property bool checkable: false
             property var picked: []
+            property Item entered: null     ///< where the pointer came to last
 
             signal clicked(int index)
 

@@ -7,7 +7,8 @@ Rectangle {
     id: item
 
     readonly property bool selected: ListView.isCurrentItem
-    readonly property bool hovered: area.containsMouse
+    /// An area that was clicked misses that the pointer leaves it: the list knows where that came to.
+    readonly property bool hovered: area.containsMouse && (!ListView.view || ListView.view.entered === item)
     readonly property color textColor: selected ? Theme.textOnDark : hovered ? "black" : Theme.text
     /// What the item says to those who cannot see it.
     property string description
@@ -41,6 +42,7 @@ Rectangle {
         anchors.fill: parent
         hoverEnabled: true
         onClicked: item.click()
+        onContainsMouseChanged: if (containsMouse && item.ListView.view) item.ListView.view.entered = item
     }
 
     Row {

@@ -9,6 +9,8 @@ Grid {
     /// What is chosen, for those who cannot see it.
     property string name
     property var choices: []
+    /// What the buttons say where that is not what they choose.
+    property var texts: choices
     /// The chosen text; any other text chooses none.
     property string value
     readonly property bool isChosen: choices.indexOf(value) >= 0
@@ -24,7 +26,7 @@ Grid {
         VfRadioButton {
             checked: choice.value === modelData
             group: choice.name
-            text: modelData
+            text: choice.texts[index]
             onToggled: choice.value = modelData
         }
     }

@@ -14,7 +14,10 @@ VfTable {
 
     function lay() {
         [{ role: "date", title: qsTr("Hour"), width: 85 }].concat(columns).forEach(function (column, i) {
-            Object.assign(getColumn(i) || addColumn(added), column)
+            if (i < columnCount)
+                Object.assign(getColumn(i), column)
+            else
+                addColumn(added.createObject(table, column)) // one without a width would take that of the table
         })
     }
 
@@ -22,7 +25,8 @@ VfTable {
         return role === "date" ? Texts.timeText(root.convertDateTimeATToLocalTimeString(row.date))
                                : Texts.numberText(reading(row)[role], root.numberToLocalString)
     }
-    onColumnsChanged: lay()
+    onColumnsChanged: if (columnCount > 0) lay()
+    Component.onCompleted: lay() // a table still being made would take its columns twice
 
     Component { id: added; VfTableViewColumn {} }
 }

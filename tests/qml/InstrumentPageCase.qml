@@ -4,7 +4,7 @@ import QtTest 1.15
 import "dialogs.js" as Dialogs
 import "items.js" as Items
 
-/// What the page of every connected heat-stress meter does; a family gives its page and what is its own.
+/// What the page of every connected instrument does; a family gives its page and what is its own.
 Item {
     id: testWindow
 
@@ -12,7 +12,16 @@ Item {
     property string product
     property string title
     property var nameFilters
-    property int configurationHeight
+    property int configurationHeight: 340
+    /// A configuration as the page reads it, without its product.
+    property var configuration
+    /// Configurations and what is shown of them: {tag, configuration, ticked, texts}; disabled is a button that cannot be pressed.
+    property var fillRows
+    /// What is sent: {tag, configuration, typed, pick, sent}; without sent the window shows the refusal.
+    property var applyRows
+    property string refusal
+    /// Whether several experiments are ticked and accepted.
+    property bool several: false
     /// The experiments in the instrument's memory, and the texts of the second one's item.
     property var experiments
     property var secondTexts
@@ -59,7 +68,7 @@ Item {
         /// Shows the window with a configuration, as the instrument would be asked for it.
         function configured(configuration) {
             press(made, "Configure")
-            core.configuration = JSON.stringify(configuration)
+            core.configuration = JSON.stringify(Object.assign({ productName: testWindow.product }, configuration))
             core.configurationUpdated()
             return made.configuration
         }
@@ -85,7 +94,7 @@ Item {
         }
 
         function test_configurationWindow() {
-            var window = configured({ productName: testWindow.product, unity: "°F", sampleTime: "00:30" })
+            var window = configured(testWindow.configuration)
             compare([window.width, window.height], [600, testWindow.configurationHeight])
             compare(window.modality, Qt.ApplicationModal)
             compare(window.title, testWindow.title + " - Configuration")
@@ -97,44 +106,28 @@ Item {
             verify(!window.visible)
         }
 
-        function test_fill_data() {
-            return [{ tag: "Fahrenheit", configuration: { unity: "°F", sampleTime: "59:59" }, unit: "°F", time: "59:59" },
-                    { tag: "Celsius", configuration: { unity: "°C", sampleTime: "00:01" }, unit: "°C", time: "00:01" },
-                    { tag: "unknown unit", configuration: { unity: "K", sampleTime: "01:00" }, unit: "", time: "01:00" },
-                    { tag: "another product", configuration: { productName: "ZELK", unity: "°F", sampleTime: "02:00" },
-                      unit: "°C", time: "10:00" }]
-        }
-
+        function test_fill_data() { return testWindow.fillRows }
         function test_fill(row) {
-            var window = configured({ productName: testWindow.product, unity: "°C", sampleTime: "10:00" })
-            configured(Object.assign({ productName: testWindow.product }, row.configuration))
+            var window = configured(testWindow.configuration)
+            configured(row.configuration)
             var ticked = Items.all(window.contentItem, function (item) { return item.checked === true })
-            compare(ticked.map(function (item) { return item.text }).join(), row.unit)
-            verify(Items.first(window.contentItem, "text", row.time))
+            compare(ticked.map(function (item) { return item.text }).join(), row.ticked);
+            (row.texts || []).forEach(function (text) { verify(Items.first(window.contentItem, "text", text), text) })
+            verify(!row.disabled || !Items.first(window.contentItem, "text", row.disabled).enabled)
         }
 
-        function test_apply_data() {
-            return [{ tag: "longest", time: "59:59", sent: { sampleTime: "59:59", unity: "°C" } },
-                    { tag: "other unit", time: "00:01", pick: "°F", sent: { sampleTime: "00:01", unity: "°F" } },
-                    { tag: "picked twice", time: "00:01", pick: "°C", sent: { sampleTime: "00:01", unity: "°C" } },
-                    { tag: "no unit", time: "01:00", unity: "", sent: { sampleTime: "01:00" } },
-                    { tag: "sixty minutes", time: "60:00" },
-                    { tag: "sixty seconds", time: "00:60" },
-                    { tag: "a digit short", time: "0:30" },
-                    { tag: "empty", time: "" }]
-        }
-
+        function test_apply_data() { return testWindow.applyRows }
         function test_apply(row) {
-            var unity = row.unity === undefined ? "°C" : row.unity
-            var window = configured({ productName: testWindow.product, unity: unity, sampleTime: "05:00" })
-            window.sampleTime = row.time
+            var window = configured(row.configuration || testWindow.configuration)
+            if (row.typed !== undefined)
+                window.sampleTime = row.typed
             if (row.pick)
                 mouseClick(Items.first(window.contentItem, "text", row.pick))
             core.calls = []
             press(window.contentItem, "Apply")
             compare(core.calls.map(function (call) { return [call[0], JSON.parse(call[1])] }),
                     row.sent ? [["sndConfiguration", row.sent]] : [])
-            compare(window.warning, row.sent ? "" : "The sample time field shall have mm:ss format")
+            compare(window.warning, row.sent ? "" : testWindow.refusal)
             compare(Items.texts(window.contentItem).indexOf(window.warning) >= 0, !row.sent)
         }
 
@@ -147,7 +140,7 @@ Item {
 
         function test_applyAnswered(row) {
             core.codes = { sndConfiguration: row.code }
-            var window = configured({ productName: testWindow.product, unity: "°C", sampleTime: "05:00" })
+            var window = configured(testWindow.configuration)
             press(window.contentItem, "Apply")
             compare(Dialogs.open(made.dialogs), row.dialog)
         }
@@ -160,7 +153,7 @@ Item {
         }
 
         function test_erase(row) {
-            var window = configured({ productName: testWindow.product, unity: "°C", sampleTime: "05:00" })
+            var window = configured(testWindow.configuration)
             core.calls = []
             core.codes = { eraseMemory: row.code }
             press(window.contentItem, "Erase memory")
@@ -201,8 +194,14 @@ Item {
             verify(Items.texts(made.list.view.itemAtIndex(2)).indexOf("Date: ---") >= 0)
         }
 
+        function pick(place) {
+            mouseClick(made.list.view.itemAtIndex(place))
+            if (testWindow.several)
+                press(made, "Accept")
+        }
+
         function test_clickPicks() {
-            mouseClick(made.list.view.itemAtIndex(1))
+            pick(1)
             compare(made.selectedIdx, [1])
             verify(made.saveDialog.visible)
             compare(made.saveDialog.title, "Save file as")
@@ -225,7 +224,23 @@ Item {
             keyClick(Qt.Key_Down)
             keyClick(row.key)
             compare(made.selectedIdx, [1])
-            verify(made.saveDialog.visible)
+            compare(made.saveDialog !== null && made.saveDialog.visible, !testWindow.several)
+        }
+
+        /// Ticks are counted by the page, whatever the items forget, and each click turns one round.
+        function test_ticks() {
+            if (!testWindow.several)
+                return verify(!Items.first(made, "buttonLabel", "Accept"))
+            press(made, "Accept")
+            compare([made.warningText1, made.saveDialog], ["You shall select at least one exposure component", null])
+            verify(Items.texts(made).indexOf(made.warningText1) >= 0);
+            [2, 1, 0, 1].forEach(function (place) { mouseClick(made.list.view.itemAtIndex(place)) })
+            compare([made.selectedIdx, made.warningText1], [[2, 0], ""])
+            compare([0, 1, 2].map(function (place) { return made.list.view.itemAtIndex(place).checked }), [true, false, true])
+            press(made, "Accept")
+            verify(root.outputs.proposal.indexOf(testWindow.product + " TX_0042 1+3 ") === 0)
+            made.saveDialog.accepted()
+            compare(core.calls[0], ["createExperiment", "[0,2]"])
         }
 
         function test_keyboardPresses() {
@@ -239,7 +254,8 @@ Item {
 
         function test_download_data() {
             return [{ tag: "saved", calls: "createExperiment saveExperimentToFile", dialog: "" },
-                    { tag: "not written", save: -1, calls: "createExperiment saveExperimentToFile", dialog: "" },
+                    { tag: "not written", save: -1, calls: "createExperiment saveExperimentToFile",
+                      dialog: testWindow.several ? "downloadFailDialog" : "" },
                     { tag: "error", code: -1, calls: "createExperiment", dialog: "downloadFailDialog" },
                     { tag: "busy", code: -2, calls: "createExperiment", dialog: "deviceBusyDialog" },
                     { tag: "disconnected", code: -3, calls: "createExperiment", dialog: "devDisconnectedDialog" },
@@ -248,7 +264,7 @@ Item {
 
         function test_download(row) {
             core.codes = { createExperiment: row.code || 0, saveExperimentToFile: row.save || 0 }
-            mouseClick(made.list.view.itemAtIndex(2))
+            pick(2)
             core.meanwhile = function () { core.progressBarUpdated(60) }
             made.saveDialog.accepted()
             compare(namesOf(core.calls), row.calls)

@@ -4,95 +4,43 @@ import QtQuick.Window 2.15
 import QtTest 1.15
 import "items.js" as Items
 
-/// What every results page of a heat-stress meter does; a family gives its page, an experiment and what it expects.
+/// What every results page does; a family gives its page, an experiment and what it expects.
 Item {
     id: testWindow
 
     property Component page
     property string product
-    /// An experiment of the family with the records of records(), as the controller writes it.
+    /// An experiment of the family, as the controller writes it.
     property var experiment
     /// The view that shows the records of the page.
     property var viewOf
-    property string indoorRole
-    property string outdoorRole
-    /// The lines of the data block, the texts of the result boxes.
+    /// What the view shows in its first tab.
+    property var firstTabOf: function (view) { return view.table }
+    /// The lines of the data block.
     property var infoTexts: []
-    property var resultTexts: []
+    /// Puts a text wherever an experiment has one; and the texts of a view that charts and tables take for markup.
+    property var spoil
+    property var markupOf
     property int reportWidth
+    /// The keys of the texts of a report in order.
+    property var reportTexts: ["cmpnyName", "siteName", "ownCompany", "collectorName", "repName", "repIdReg"]
+    /// Further texts of a report.
+    property var reportRest: ({})
     /// The visible boxes of the report window in order: {key, gone: the keys that go when it is off}.
     property var boxes: []
-    property alias testCase: testCase
 
     width: 1260
     height: 670
 
-    /// Three readings: a plain one; texts that are no numbers; one without a date.
-    function records() {
-        return [
-            { date: "21/03/05,14:30:00-12", values: ["24.1", "30.2", "31.0", "25.9", "25.6"] },
-            { date: "21/03/05,14:31:00-12", values: ["", "LOW", "32.0", "26.0", "1234.5"] },
-            { date: "+00", values: ["20.0", "20.0", "20.0", "20.0", "20.0"] }
-        ]
-    }
-
-    function quantities(values) {
-        var part = { wetTemperature: values[0], dryTemperature: values[1], globeTemperature: values[2] }
-        part[indoorRole] = values[3]
-        part[outdoorRole] = values[4]
-        return part
-    }
-
-    readonly property var figures: ({ wetTMax: 24.1, wetTMin: 20, dryTMax: 30.25, dryTMin: 20, globeTMax: 32, globeTMin: 20 })
-    readonly property var timing: ({ duration: "00:03:00", pauseTime: "00:00:10", sampleTime: 60, unity: "°C" })
-
-    TestCase {
+    ResultsTestCase {
         id: testCase
 
-        property var made: null
-
         name: "results"
-        when: windowShown
-        visible: true
-        width: testWindow.width
-        height: testWindow.height
-
-        SignalSpy { id: shown; signalName: "showResults" }
-
-        function init() {
-            core.reset()
-            made = createTemporaryObject(testWindow.page, testCase, { width: width, height: height })
-            verify(made)
-            shown.target = made
-            shown.clear()
-        }
-
-        function show(position, change) {
-            var experiment = testWindow.experiment()
-            if (change)
-                change(experiment)
-            core.experiment = JSON.stringify(experiment)
-            core.experimentUpdated(position === undefined ? -3 : position)
-        }
-
-        function view() { return testWindow.viewOf(made) }
-
-        /// Items are where a user sees them once a frame was drawn.
-        function drawn(item) {
-            item.Window.window.requestUpdate()
-            waitForRendering(item)
-        }
-
-        function clickOn(property, value, where) {
-            var item = Items.first(where || made, property, value)
-            verify(item, value)
-            drawn(item)
-            mouseClick(item)
-        }
+        family: testWindow
 
         function test_whoseExperiment_data() {
             var own = JSON.stringify(testWindow.experiment())
-            var foreign = own.replace(testWindow.product, "NEMBRA+")
+            var foreign = own.replace(testWindow.product, "ZELK")
             var quoted = '{"a": "\\"deviceName\\": \\"' + testWindow.product + '\\"", "deviceName": "ZELK", "logList": []}'
             var lengthy = "\"date\":\"" + new Array(400).join("x") + "\","
             return [
@@ -135,55 +83,9 @@ Item {
         function test_dataBlock() {
             show()
             compare(Items.texts(made.infoItem), testWindow.infoTexts)
-            show(-3, function (experiment) { experiment.date = ""; experiment.results.duration = "" })
+            show(-3, function (experiment) { experiment.date = ""; delete experiment.results.pauseTime })
             var texts = Items.texts(made.infoItem)
-            compare(texts[3], "---")
-            compare(texts[5], "---")
-        }
-
-        function test_table() {
-            show()
-            var table = view().table, heads = []
-            for (var i = 0; i < table.columnCount; ++i)
-                heads.push(table.getColumn(i).title)
-            compare(heads, ["Hour", "T<sub>wet</sub> [°C]", "T<sub>dry</sub> [°C]", "T<sub>globe</sub> [°C]",
-                            "WBGT<sub>i</sub> [°C]", "WBGT<sub>o</sub> [°C]"])
-            var rows = table.rows.map(function (record) {
-                return heads.map(function (head, i) { return table.cellText(record, table.getColumn(i).role) }).join("|")
-            })
-            compare(rows, ["14:30:00|24.10|30.20|31.00|25.90|25.60", "14:31:00|---|LOW|32.00|26.00|1,234.50",
-                           "---|20.00|20.00|20.00|20.00|20.00"])
-            compare(table.rowCount, 3)
-            tryVerify(function () { return Items.texts(table).indexOf("1,234.50") >= 0 }, 5000, "cells are drawn")
-        }
-
-        function test_chartTab() {
-            show()
-            clickOn("text", "Temperature x Time")
-            tryVerify(function () { return view().temperatureChart })
-            var chart = view().temperatureChart
-            compare(chart.title, "Temperature x Time")
-            compare(chart.valueTitle, "Temperature [°C]")
-            compare(chart.names[0], "T<sub>wet</sub> [°C]")
-            compare(chart.names[4], "WBGT<sub>o</sub> [°C]")
-            compare(chart.times.length, 2)          // the third has no place in time
-            compare(chart.drawn[0].x.length, 1)
-            compare(chart.drawn[2].y[1], 32)
-            var first = new Date("2021-03-05T14:30:00-03:00").getTime()
-            compare(chart.from, first - 60000)
-            compare(chart.to, first + 120000)
-            show(-3, function (experiment) { experiment.logList = [] })
-            compare(chart.drawn[0].x.length, 0)
-        }
-
-        function test_resultsTab() {
-            show()
-            clickOn("text", "Results")
-            tryCompare(view(), "currentTab", 2)
-            var boxes = []
-            for (var i = 0; i < 5; ++i)
-                boxes.push(Items.texts(view().resultItems.itemAt(i)))
-            compare(boxes, testWindow.resultTexts)
+            compare([texts[texts.indexOf("Date:") + 1], texts[texts.indexOf("Pause time:") + 1]], ["---", "---"])
         }
 
         /// What a file says is text and of bounded length, wherever it is shown.
@@ -192,13 +94,10 @@ Item {
                     { tag: "absurdly long", text: new Array(100000).join("<i>") }]
         }
         function test_textsAreNoMarkup(row) {
-            show(-3, function (experiment) {
-                experiment.expName = experiment.logList[0].date = row.text
-                experiment.results.unity = experiment.results.duration = experiment.results.sampleTime = row.text
-            })
+            show(-3, function (experiment) { testWindow.spoil(experiment, row.text) })
             var report = Items.first(made, "buttonLabel", "Generate report")
             verify(report.mapToItem(made, report.width, 0).x < made.width, "the buttons stay in the window")
-            var markup = [], headed = view().table.getColumn(1).title
+            var markup = []
             for (var tab = 0; tab < 3; ++tab) {
                 view().setTab(tab)
                 markup = markup.concat(Items.all(made, function (item) {
@@ -206,20 +105,9 @@ Item {
                     return item.textFormat !== undefined && item.textFormat !== Text.PlainText
                 }).map(function (item) { return item.text }))
             }
-            var chart = view().temperatureChart
-            markup = markup.concat(chart.valueTitle, chart.names[0], headed).join()
-            compare(markup.match(/<(?!\/?sub>)|&(?!lt;|gt;|amp;)/g), null)
-            verify(chart.valueTitle.length < 1000)
-        }
-
-        function test_tabsByKeyboard() {
-            show()
-            Items.first(made, "text", "Temperature x Time").forceActiveFocus(Qt.TabFocusReason)
-            keyClick(Qt.Key_Space)
-            tryCompare(view(), "currentTab", 1)
-            Items.first(made, "text", "Results").forceActiveFocus(Qt.TabFocusReason)
-            keyClick(Qt.Key_Return)
-            tryCompare(view(), "currentTab", 2)
+            markup = markup.concat(testWindow.markupOf(view()))
+            compare(markup.join().match(/<(?!\/?sub>)|&(?!lt;|gt;|amp;)/g), null)
+            verify(markup.every(function (text) { return text.length < 1000 }))
         }
 
         /// Two rounds of Tab stop at the same places, all of them in sight, whatever tab was looked at before.
@@ -227,7 +115,7 @@ Item {
             show(0)
             view().setTab(1)
             view().setTab(0)
-            tryVerify(function () { return Math.abs(view().table.mapToItem(view(), 0, 0).x) < view().width })
+            tryVerify(function () { return Math.abs(testWindow.firstTabOf(view()).mapToItem(view(), 0, 0).x) < view().width })
             var rounds = []
             Items.first(made, "buttonLabel", "Generate report").forceActiveFocus(Qt.TabFocusReason)
             for (var i = 0; i < 2; ++i) {
@@ -244,25 +132,6 @@ Item {
             }
             verify(stops.length > 5 && stops.length < 50)
             compare(rounds[1], rounds[0])
-        }
-
-        /// What the keys reach in chart and table becomes the focus of those who listen.
-        function test_told() {
-            function told(item) {
-                return Items.all(item, function (part) { return part.tell && part.activeFocus })
-                    .map(function (part) { return part.Accessible.name }).join()
-            }
-            show()
-            view().table.forceActiveFocus()
-            tryVerify(function () { return told(view().table).indexOf("Hour 14:30:00, Twet [°C] 24.10, ") === 0 })
-            keyClick(Qt.Key_Down)
-            verify(told(view().table).indexOf("Hour 14:31:00, Twet [°C] ---, ") === 0)
-            view().setTab(1)
-            view().temperatureChart.forceActiveFocus()
-            keyClick(Qt.Key_Right)
-            tryVerify(function () { return told(view().temperatureChart) === "Twet [°C]: 24.10, 14:30:00" })
-            keyClick(Qt.Key_Down)
-            compare(told(view().temperatureChart), "Tdry [°C]: 30.20, 14:30:00")
         }
 
         function test_arrows_data() {
@@ -334,12 +203,9 @@ Item {
 
             pickFile()
             Items.all(window.contentItem, function (item) { return item.labelWidth !== undefined })
-                .forEach(function (field, i) { field.text = "text " + i })
+                .forEach(function (field, i) { everything[testWindow.reportTexts[i]] = field.text = "text " + i })
             testWindow.boxes.forEach(function (box) { everything[box.key] = true })
-            Object.assign(everything, {
-                cmpnyName: "text 0", siteName: "text 1", ownCompany: "text 2", collectorName: "text 3", repName: "text 4",
-                repIdReg: "text 5", logoFile: "", obsText: "", fileName: "/tmp/a b/100% n#1.pdf"
-            })
+            Object.assign(everything, testWindow.reportRest, { logoFile: "", obsText: "", fileName: "/tmp/a b/100% n#1.pdf" })
             compare(sorted(submitted()), sorted(everything))
             verify(Items.texts(window.contentItem).indexOf("File name shall not be empty") < 0)
         }

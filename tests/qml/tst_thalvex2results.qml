@@ -2,7 +2,7 @@
 import QtQuick 2.15
 import "qrc:/thalvex2/qml"
 
-ResultsPageCase {
+HeatStressResultsCase {
     readonly property var five: ["ckbDryTemp", "ckbWetTemp", "ckbGlobeTemp", "ckbIBUTGi", "ckbIBUTGe"]
 
     function keys(part) { return five.map(function (key) { return key + part }) }

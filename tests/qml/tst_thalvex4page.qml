@@ -2,7 +2,7 @@
 import QtQuick 2.15
 import "qrc:/thalvex4/qml"
 
-InstrumentPageCase {
+HeatStressPageCase {
     product: "THALVEX 4"
     title: "Thalvex 4"
     page: Component { PageThalvex4 {} }

@@ -4,7 +4,7 @@ import QtTest 1.15
 import "items.js" as Items
 import "qrc:/thalvex4/qml"
 
-ResultsPageCase {
+HeatStressResultsCase {
     id: results
 
     readonly property var five: ["ckbDryTemp", "ckbWetTemp", "ckbGlobeTemp", "ckbIBUTGi", "ckbIBUTGe"]
@@ -66,26 +66,16 @@ ResultsPageCase {
         { key: "obsEnable", gone: ["obsText"] }
     ])
 
-    TestCase {
+    ResultsTestCase {
         id: units
 
-        property var made: null
-
         name: "units"
-        when: windowShown
-        visible: true
-        width: results.width
-        height: results.height
-
-        function init() {
-            core.reset()
-            made = createTemporaryObject(results.page, units, { width: width, height: height })
-        }
+        family: results
 
         function show(experiment) {
             core.experiment = JSON.stringify(experiment)
             core.experimentUpdated(-3)
-            results.testCase.drawn(made)
+            drawn(made)
         }
 
         function listed() {

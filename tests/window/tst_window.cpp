@@ -79,6 +79,8 @@ private slots:
     void fromInstrumentToFileAndBack_data();
     void fromInstrumentToFileAndBack();
     void unitsGrowAndShrink();
+    void severalAtOnce_data();
+    void severalAtOnce();
     void configureAndErase_data() { products(); }
     void configureAndErase();
     void unplugInMidDownload_data() { products(); }
@@ -99,7 +101,9 @@ private:
     QQuickItem *experimentItem(int index) const;
     SimulatedInstrument &instrument(const QString &product)
     {
-        return *m_instruments[product == QLatin1String("THALVEX 4")];
+        return **std::find_if(m_instruments.cbegin(), m_instruments.cend(), [&](const auto &candidate) {
+            return candidate->inside().identity().product == product.toLatin1();
+        });
     }
 
     QTemporaryDir m_folder;
@@ -122,7 +126,10 @@ void TestWindow::init()
     m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedThalvex2(1)));
     m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedThalvex4(2, 3)));
     m_core = std::make_unique<Core>([this] {
-        return QStringList{m_instruments[0]->portName(), m_instruments[1]->portName()};
+        QStringList names;
+        for (const auto &instrument : m_instruments)
+            names.append(instrument->portName());
+        return names;
     });
     m_engine = std::make_unique<QQmlApplicationEngine>();
     connect(m_engine.get(), &QQmlEngine::warnings, this, [](const QList<QQmlError> &warnings) {
@@ -272,6 +279,56 @@ void TestWindow::unitsGrowAndShrink()
         m_core->parseFile(fileOf(units));
         look(units);
     }
+}
+
+void TestWindow::severalAtOnce_data()
+{
+    QTest::addColumn<QString>("product");
+    QTest::addColumn<QString>("name");
+    QTest::newRow("one weighting") << QStringLiteral("NEMBRA") << QStringLiteral("Nembra");
+    QTest::newRow("all weightings") << QStringLiteral("NEMBRA+") << QStringLiteral("NembraPlus");
+}
+
+/// Three experiments, one without octaves and overloaded, one in thirds, one in octaves and by hand: ticked, downloaded
+/// together, walked through tab by tab, and so again from their file.
+void TestWindow::severalAtOnce()
+{
+    QFETCH(QString, product);
+    QFETCH(QString, name);
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedNembra(3)));
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedNembraPlus(4)));
+    const QString path = m_folder.filePath(name);
+    const auto walk = [&] {
+        QTRY_COMPARE(state(), name + QLatin1String("ResultsState"));
+        const QString first = m_core->experiment();
+        for (const char *arrow : {"Next experiment", "Next experiment", "Previous experiment", "Previous experiment", ""}) {
+            for (const char *tab : {"L<sub>eq</sub> x Octave", "Results", "L<sub>Aeq</sub> x Time"}) {
+                QQuickItem *button = findInWindows(
+                    [&](const QQuickItem *item) { return item->property("text") == tab && item->property("checked").isValid(); });
+                click(button);
+                QTRY_VERIFY(button->property("checked").toBool());
+                QTest::qWait(300); // what moves and draws between them
+            }
+            if (*arrow)
+                click(findInWindows(has("label", QLatin1String(arrow))));
+        }
+        QVERIFY(!findInWindows(has("label", QStringLiteral("Previous experiment"))));
+        QCOMPARE(m_core->experiment(), first);
+    };
+    enter(product);
+    QCOMPARE(state(), name + QLatin1String("State"));
+    for (const int index : {4, 1, 3})
+        click(experimentItem(index));
+    press(QStringLiteral("Accept"));
+    chooseFile(path);
+    walk();
+    const QString downloaded = m_core->experiment();
+    for (int back = 0; back < 2; ++back)
+        click(findInWindows(has("label", QStringLiteral("Back"))));
+    press(QStringLiteral("Open file"));
+    chooseFile(path + (product.endsWith(QLatin1Char('+')) ? QLatin1String(".nbp") : QLatin1String(".nbr")));
+    walk();
+    QCOMPARE(m_core->experiment(), downloaded);
 }
 
 void TestWindow::configureAndErase()

@@ -1,0 +1,10 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+import QtQuick 2.15
+import "../../soundlevel/qml"
+
+SoundLevelPage {
+    pageTitle: qsTr("Nembra")
+    productName: "NEMBRA"
+    fileFilter: "(*.nbr)"
+    configurationWindow: NembraConfiguration {}
+}
