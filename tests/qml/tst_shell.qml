@@ -91,6 +91,8 @@ Item {
         function test_openDevice_data() {
             return [{ tag: "THALVEX 2", page: "Thalvex 2", state: "Thalvex2State" },
                     { tag: "THALVEX 4", page: "Thalvex 4", state: "Thalvex4State" },
+                    { tag: "NEMBRA", page: "Nembra", state: "NembraState" },
+                    { tag: "NEMBRA+", page: "Nembra+", state: "NembraPlusState" },
                     { tag: "TOASTER", page: "HOME", state: "" }]
         }
 
@@ -135,6 +137,8 @@ Item {
         function test_resultsOfAFile_data() {
             return [{ tag: "THALVEX 2", page: "Thalvex 2 - Results", state: "Thalvex2ResultsState" },
                     { tag: "THALVEX 4", page: "Thalvex 4 - Results", state: "Thalvex4ResultsState" },
+                    { tag: "NEMBRA", page: "Nembra - Results", state: "NembraResultsState" },
+                    { tag: "NEMBRA+", page: "Nembra+ - Results", state: "NembraPlusResultsState" },
                     { tag: "ZELK", page: "HOME", state: "" }]
         }
 
