@@ -32,7 +32,11 @@ FocusScope {
         labels = categories
         values = numbers
         valueAxis.max = maximum
-        valueAxis.tickCount = Math.max(2, Math.min(11, maximum / 10 + 1))
+        // Marks at round values: each ten, or as few tens as are no crowd.
+        var tens = Math.round(maximum / 10), step = 1
+        while (step < 10 && (tens % step > 0 || tens / step > 14))
+            ++step
+        valueAxis.tickCount = tens % step > 0 || tens / step > 14 ? 2 : tens / step + 1
         categoryAxis.clear()
         // Categories of one name would be one: marks that nobody sees tell them apart.
         categoryAxis.categories = categories.map(function (label, i) { return label + new Array(i + 1).join("\u200b") })
