@@ -17,7 +17,7 @@ Item {
     function show(measured, thirds) {
         bands = measured.slice(0, Octaves.corrections.A.length)
         step = thirds
-        bars.dense = thirds === 1
+        bars.dense = thirds === 1 || bands.length > 12 // more than octaves are
         curves.value = "Z"
         draw()
     }

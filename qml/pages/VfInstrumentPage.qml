@@ -45,9 +45,14 @@ VfPage {
         })
     }
 
+    /// Changes the configuration. What failed half way may have changed some of it: the window then shows what is so.
     function sendConfiguration(cfg) {
-        root.wait(qsTr("Changing the configuration") + "...", function () { return core.sndConfiguration(cfg) },
-                  function (code) {
+        root.wait(qsTr("Changing the configuration") + "...", function () {
+            var code = core.sndConfiguration(cfg)
+            if (code === root.deviceError || code === root.deviceBusy)
+                core.acquireConfiguration()
+            return code
+        }, function (code) {
             if (dialogs.answered(code, dialogs.configErrorDialog))
                 dialogs.configSuccesfulDialog.open()
         })

@@ -133,8 +133,8 @@ Item {
 
         function test_applyAnswered_data() {
             return [{ tag: "applied", code: 0, dialog: "configSuccesfulDialog" },
-                    { tag: "error", code: -1, dialog: "configErrorDialog" },
-                    { tag: "busy", code: -2, dialog: "deviceBusyDialog" },
+                    { tag: "error", code: -1, dialog: "configErrorDialog", readAgain: true },
+                    { tag: "busy", code: -2, dialog: "deviceBusyDialog", readAgain: true },
                     { tag: "disconnected", code: -3, dialog: "devDisconnectedDialog" }]
         }
 
@@ -143,6 +143,7 @@ Item {
             var window = configured(testWindow.configuration)
             press(window.contentItem, "Apply")
             compare(Dialogs.open(made.dialogs), row.dialog)
+            compare(core.calls[core.calls.length - 1][0], row.readAgain ? "acquireConfiguration" : "sndConfiguration")
         }
 
         function test_erase_data() {
