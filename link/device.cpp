@@ -6,7 +6,7 @@
 namespace {
 
 // A scan asks whatever is plugged in, and a receiver or a modem may never stop talking.
-constexpr int LongestIdentification = 64 * 1024;
+constexpr Interface::Bounds Identification{64 * 1024, 5000};
 
 } // namespace
 
@@ -80,28 +80,29 @@ int Device::sendCommand(const QByteArray &cmd)
 }
 
 // The interface is held for the length of the wait: the device may be let go of in the middle of it.
-QByteArray Device::readResponse(int longest)
+QByteArray Device::readResponse(const Interface::Bounds &bounds)
 {
     const std::shared_ptr<Interface> iface = m_iface;
-    return iface->read(longest);
+    return iface->read(bounds);
 }
 
-Reply Device::query(const QByteArray &cmd, const QByteArray &tag, Match match, int longest)
+Reply Device::query(const QByteArray &cmd, const QByteArray &tag, Match match, const Interface::Bounds &bounds)
 {
     if (sendCommand(cmd) != 0)
         return {DeviceDisconnected, {}};
-    return sortReply(readResponse(longest), tag, match);
+    return sortReply(readResponse(bounds), tag, match);
 }
 
-QByteArray Device::echoOff()
+void Device::echoOff()
 {
-    return sendCommand("ATE0\r\n") == 0 ? readResponse(LongestIdentification) : QByteArray();
+    if (sendCommand("ATE0\r\n") == 0)
+        readResponse(Identification);
 }
 
 std::optional<QString> Device::identification(const char *command)
 {
     const Reply reply = query("AT+" + QByteArray(command) + "\r\n", "\r\n+" + QByteArray(command) + ": ", Match::End,
-                              LongestIdentification);
+                              Identification);
     if (reply.code != DeviceSuccessful)
         return std::nullopt;
     return QString::fromLatin1(reply.data).remove(QLatin1String("\r\n"));
@@ -109,8 +110,7 @@ std::optional<QString> Device::identification(const char *command)
 
 int Device::identify()
 {
-    if (echoOff().size() >= LongestIdentification)
-        return 1; // it talks by itself
+    echoOff();
     const std::pair<const char *, void (Device::*)(const QString &)> questions[] = {
         {"CGMI", &Device::setManufactoryName},
         {"CGMM", &Device::setProductName},

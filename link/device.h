@@ -59,8 +59,7 @@ public:
     int openPort(const QString &location);
     /// Switches the echo off and asks maker, product, serial number and firmware: 0, or 1 at the first failure.
     int identify();
-    /// Gives the answer, in which nothing is told.
-    QByteArray echoOff();
+    void echoOff();
 
     /// The instrument as files tell of it.
     QJsonObject toJson() const;
@@ -119,11 +118,11 @@ protected:
     Device(const Device &plain, Manners manners);
 
     [[nodiscard]] int sendCommand(const QByteArray &cmd);
-    QByteArray readResponse(int longest = Interface::LongestAnswer);
+    QByteArray readResponse(const Interface::Bounds &bounds = {});
 
     /// Sends \a cmd and sorts the answer, whose data begin with \a tag.
     Reply query(const QByteArray &cmd, const QByteArray &tag, Match match = Match::End,
-                int longest = Interface::LongestAnswer);
+                const Interface::Bounds &bounds = {});
     /// Asks for the setting of \a command.
     Reply askSetting(const QByteArray &command);
     /// Sends \a cmd, which changes a setting and whose answer's data begin with \a tag.

@@ -74,13 +74,16 @@ void Interface::readData()
 // The spin costs a core while it waits, and is the fastest way to the next byte; pumping the event loop is what keeps
 // the window alive during a download. The window may have been busy for longer than the limit in the last turn: an answer
 // that came meanwhile is found by looking once more.
-QByteArray Interface::read(int longest)
+QByteArray Interface::read(const Bounds &bounds)
 {
     if (m_waiting)
         return {};
     m_waiting = true;
     m_lastActivity.start();
-    for (int looks = 0; m_port && !m_cancelled && !m_responseComplete && m_buffer.size() < longest;) {
+    QElapsedTimer whole;
+    whole.start();
+    for (int looks = 0; m_port && !m_cancelled && !m_responseComplete && m_buffer.size() < bounds.bytes &&
+                        whole.elapsed() < bounds.milliseconds;) {
         looks = m_lastActivity.elapsed() < SilenceLimit ? 0 : looks + 1;
         if (looks > LastLooks)
             break;

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QSerialPort>
 
+#include <limits>
 #include <memory>
 
 /// The byte transport under an instrument: one serial port, one buffer of what has arrived, and a wait that ends with
@@ -36,9 +37,15 @@ public:
     /// Throws away what the driver holds and sends \a data: 0, or 1 when not all of it was taken, when no port is open
     /// and while an answer to an earlier command is being waited for.
     [[nodiscard]] int write(const QByteArray &data);
-    /// Waits for the end of an answer, for half a second of silence or for \a longest bytes, and gives what has arrived:
+    /// What an answer cannot be longer than.
+    struct Bounds {
+        int bytes = LongestAnswer;
+        qint64 milliseconds = std::numeric_limits<qint64>::max();
+    };
+    /// Waits for the end of an answer, for half a second of silence or for one of \a bounds, and gives what has arrived:
     /// nothing at worst.
-    QByteArray read(int longest = LongestAnswer);
+    QByteArray read(const Bounds &bounds);
+    QByteArray read() { return read(Bounds()); }
     /// Ends a wait at once; until resume() nothing is sent any more, and no answer is waited for.
     void cancel() { m_cancelled = true; }
     /// Forgets what has arrived, and lets commands through again.
