@@ -28,8 +28,8 @@ function levels(bands, step, weighting) {
     if (curve && (start === undefined || !step))
         return []
     return bands.map(function (band, i) {
-        var level = String(band.leq).trim() === "" || !isFinite(band.leq) ? NaN : Number(band.leq)
-        return Math.round(level * 100) / 100 + (curve ? curve[start + i * step] || 0 : 0)
+        var level = String(band.leq).trim() === "" ? NaN : Math.round(band.leq * 100) / 100
+        return isFinite(level) ? level + (curve ? curve[start + i * step] || 0 : 0) : NaN
     })
 }
 

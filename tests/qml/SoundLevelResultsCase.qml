@@ -28,7 +28,7 @@ ResultsPageCase {
                 freqWeighting: "C", octaveAnalysis: "1/1", l05: "85.1", l10: "84", l50: "OL", l90: "---", l95: "1070.5",
                 preChk: "94.0", preChkDate: "21/03/05,14:00:00-12", posChk: "---", posChkDate: "",
                 leqList: [{ freqIdx: "5", frequency: "31.50", leq: "70.126" }, { freqIdx: "8", frequency: "63.00", leq: "80" },
-                          { freqIdx: "11", frequency: "125.00", leq: "---" }]
+                          { freqIdx: "11", frequency: "125.00", leq: "---" }, { freqIdx: "14", frequency: "250.00", leq: "1e308" }]
             }, levels)
         }
     }
@@ -78,7 +78,7 @@ ResultsPageCase {
             view().setTab(1)
             tryVerify(function () { return view().levelChart.mapToItem(view(), view().levelChart.width, 0).x < 1 })
             var bars = view().octaveChart.chart
-            compare([bars.labels, bars.values[0], bars.values[1]], [["31.5 ", "63 ", "125 "], 70.13, 80])
+            compare([bars.labels, bars.values[0], bars.values[1]], [["31.5 ", "63 ", "125 ", "250 "], 70.13, 80])
             clickOn("text", "A Curve")
             compare(bars.values.slice(0, 2).map(function (level) { return level.toFixed(2) }), ["30.73", "53.80"])
             bars.forceActiveFocus()
@@ -87,7 +87,7 @@ ResultsPageCase {
             keyClick(Qt.Key_Right)
             keyClick(Qt.Key_Right)
             keyClick(Qt.Key_Right)
-            compare(told(bars), "125 Hz, ---")
+            compare(told(bars), "250 Hz, ---")
             keyClick(Qt.Key_Delete)
             compare(bars.current, -1);
             // Others one after another begin with what was measured; those of no known kind have that alone.
