@@ -32,6 +32,9 @@ const Subject subjects[] = {
      [](const QVector<SimulatedExperiment> &memory) { return simulatedThalvex2(1, memory); }},
     {"THALVEX 4, 3 expansions", "THALVEX 4", ".tv4",
      [](const QVector<SimulatedExperiment> &memory) { return simulatedThalvex4(1, 3, memory); }},
+    {"NEMBRA", "NEMBRA", ".nbr", [](const QVector<SimulatedExperiment> &memory) { return simulatedNembra(1, memory); }},
+    {"NEMBRA+", "NEMBRA+", ".nbp",
+     [](const QVector<SimulatedExperiment> &memory) { return simulatedNembraPlus(1, memory); }},
 };
 
 QByteArray contentOf(const QString &path)
