@@ -38,8 +38,11 @@ FocusScope {
             ++step
         valueAxis.tickCount = tens % step > 0 || tens / step > 14 ? 2 : tens / step + 1
         categoryAxis.clear()
-        // Categories of one name would be one: marks that nobody sees tell them apart.
-        categoryAxis.categories = categories.map(function (label, i) { return label + new Array(i + 1).join("\u200b") })
+        // Categories of one name would be one: marks that nobody sees tell them apart. Without any, the axis would go on
+        // drawing those it had.
+        categoryAxis.categories = categories.length === 0 ? ["\u200b"] : categories.map(function (label, i) {
+            return label + new Array(i + 1).join("\u200b")
+        })
         bars.append("", numbers.map(function (value) { return isNaN(value) ? 0 : value }))
         bars.at(0).color = barColor
         bars.at(0).borderColor = "transparent"
