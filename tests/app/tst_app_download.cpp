@@ -120,7 +120,10 @@ private slots:
         const bool first = kind.ending == QByteArray(".tvx"); // the smaller heat-stress meter's files show the first
         QCOMPARE(position.value(0).value(0).toInt(), first ? -3 : -2);
         QCOMPARE(members(reader), first ? downloaded.mid(0, 1) : downloaded);
-        QCOMPARE(reader.expCompList().value<QList<QObject *>>().size(), kind.hasMeasuringPoints ? 3 : 0);
+        const auto points = reader.expCompList().value<QList<QObject *>>(); // owned by who reads them
+        const int count = points.size();
+        qDeleteAll(points);
+        QCOMPARE(count, kind.hasMeasuringPoints ? 3 : 0);
     }
 
     /// Each byte costs half a second: of sisters whose answers are alike the one with more of them.
