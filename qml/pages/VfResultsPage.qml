@@ -27,12 +27,6 @@ VfPage {
 
     signal showResults()
 
-    /// Makes what an experiment will be shown with.
-    function prepare() {
-        viewLoader.active = true
-        infoLoader.active = true
-    }
-
     /// A family hands the experiment to its view, which has a function forget() too.
     function fill(parsed) {}
 
@@ -67,7 +61,8 @@ VfPage {
             return dialogs.invalidFileDialog.open()
         previous.visible = position === root.expLastItem || position === root.expMiddleItem
         next.visible = position === root.expFirstItem || position === root.expMiddleItem
-        prepare()
+        viewLoader.active = true
+        infoLoader.active = true
         infoItem.experiment = experiment
         fill(experiment)
         showResults()

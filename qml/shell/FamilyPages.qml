@@ -42,7 +42,7 @@ Item {
     Loader { id: resultsLoader; anchors.fill: parent }
 
     // Who looks at an instrument will want results: they are made while the user looks, not behind a download.
-    Timer { id: soon; interval: 200; onTriggered: { family.makeResults(); family.results.prepare() } }
+    Timer { id: soon; interval: 200; onTriggered: family.makeResults() }
 
     Connections {
         target: family.page
