@@ -313,45 +313,6 @@ private slots:
             QCOMPARE(json(core.experiment())["eventIndex"].toInt(), 1);
     }
 
-    /// One bad record is a failed download; the instrument stays.
-    void createExperimentFails_data()
-    {
-        QTest::addColumn<Fault>("fault");
-        QTest::addColumn<Names>("told");
-        QTest::newRow("busy") << Fault::busy().on("AT+VFRDXP=") << Names();
-        QTest::newRow("short record") << Fault::shortRecord().on("AT+VFRDXP=2,21") << Names();
-        QTest::newRow("wrong tag") << Fault::wrongTag().on("AT+VFRDXP=").at(2) << Names();
-        QTest::newRow("garbage") << Fault::garbage().on("AT+VFRDXP=").at(3) << Names();
-        QTest::newRow("refused header") << Fault::error().on("AT+VFXPHDR=2") << Names();
-        QTest::newRow("short header") << Fault::shortRecord().on("AT+VFXPHDR=3") << Names();
-    }
-    void createExperimentFails()
-    {
-        QFETCH(Fault, fault);
-        PluggedCore plugged;
-        QCOMPARE(plugged.begin(), 0);
-        plugged.instrument.fault(fault);
-        QCOMPARE(plugged.core.createExperiment("[1]"), -1);
-        QTEST(plugged.log.take(), "told");
-        QCOMPARE(plugged.core.experiment(), QString());
-        plugged.instrument.clearFaults();
-        QCOMPARE(plugged.core.createExperiment("[1]"), 0);
-        QCOMPARE(plugged.log.take(), Downloaded);
-    }
-
-    void closingRecordThatFailsLeavesTheExperiment()
-    {
-        PluggedCore plugged;
-        QCOMPARE(plugged.begin(), 0);
-        plugged.instrument.fault(Fault::busy().on("AT+VFXPHDR=8"));
-        QCOMPARE(plugged.core.createExperiment("[0]"), 0);
-        QCOMPARE(plugged.log.take(), Names{"deviceBusy"} + Downloaded);
-        const QJsonObject results = json(plugged.core.experiment())["results"].toObject();
-        QCOMPARE(results["vbatStart"].toInt(), 0);
-        QCOMPARE(results["stopReason"].toString(), QString());
-        QVERIFY(results["sampleTime"].toInt() > 0);
-    }
-
     void downloadSaveReopen_data()
     {
         QTest::addColumn<bool>("larger");

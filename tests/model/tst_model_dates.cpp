@@ -76,25 +76,6 @@ private slots:
         QCOMPARE(AtDateTime::toAtString(moment), QString("+00"));
     }
 
-    void findsDaysOfTheMonth()
-    {
-        for (int day = 1; day <= 31; ++day) {
-            const QDate today = QDate::currentDate();
-            QDate expected = today;
-            while (expected.day() != day)
-                expected = expected.addDays(1);
-            const QDate found = AtDateTime::dateForMonthDay(day).date();
-            const int following = AtDateTime::nextMonthDay(day);
-            if (today != QDate::currentDate()) {
-                --day; // midnight passed: once more
-                continue;
-            }
-            QCOMPARE(found, expected);
-            QCOMPARE(following, day < today.daysInMonth() ? day + 1 : 1);
-        }
-        QVERIFY(AtDateTime::dateForMonthDay(99).isValid()); // no such day: comes back all the same
-    }
-
     void calibrationFromTheInstrument_data()
     {
         QTest::addColumn<QString>("answer");

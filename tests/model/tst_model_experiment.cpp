@@ -1,18 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // Chains of experiments, and what makes them.
 
-#include "link/device.h"
 #include "link/factories.h"
 #include "model/experiment.h"
-#include "model/exposurecomponent.h"
 #include "model/log.h"
-#include "model/results.h"
 #include "model/vffile.h"
-#include "report/vfprinter.h"
 #include "thalvex2/thalvex2experiment.h"
-#include "thalvex4/thalvex4experiment.h"
 
-#include <QSignalSpy>
+#include <QPointer>
 #include <QtTest>
 
 class TestModelExperiment : public QObject
@@ -54,27 +49,6 @@ private slots:
         QVERIFY(std::all_of(members.cbegin(), members.cend(), [](const auto &member) { return member.isNull(); }));
     }
 
-    /// The page is told of a change, and of nothing else.
-    void tellsOfChanges()
-    {
-        Thalvex4Experiment listed;
-        QCOMPARE(listed.parseHeader("0,3,25,\"21/03/05\",\"14:30:00-12\",\"Forno\""), 0);
-        Thalvex4Experiment copy;
-        QSignalSpy index(&copy, &Experiment::experimentIndexChanged);
-        QSignalSpy size(&copy, &Experiment::experimentSizeChanged);
-        QSignalSpy date(&copy, &Experiment::experimentDateTimeChanged);
-        QSignalSpy name(&copy, &Thalvex4Experiment::experimentNameChanged);
-        for (int times = 0; times < 2; ++times) {
-            copy.copyFrom(&listed);
-            QCOMPARE(copy.index(), 3);
-            QCOMPARE(copy.size(), 25);
-            QCOMPARE(copy.dateTime(), listed.dateTime());
-            QCOMPARE(copy.property("exp_Name").toString(), QString("Forno"));
-            for (const QSignalSpy *spy : {&index, &size, &date, &name})
-                QCOMPARE(spy->size(), 1);
-        }
-    }
-
     /// One bad record fails the experiment; what came before it stays, what was there before goes.
     void parsesLogs()
     {
@@ -87,40 +61,6 @@ private slots:
         QCOMPARE(experiment.logs().size(), 1);
         QCOMPARE(experiment.parseLogs({}), 0);
         QCOMPARE(experiment.logs().size(), 0);
-    }
-
-    void knowsTheProducts_data()
-    {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("family"); // empty: nobody's
-        QTest::newRow("smaller meter") << "THALVEX 2" << "Thalvex2";
-        QTest::newRow("larger meter") << "THALVEX 4" << "Thalvex4";
-        for (const char *name : {"", "thalvex 2", "THALVEX 2 ", " THALVEX 2", "THALVEX2", "THALVEX", "THALVEX 22"})
-            QTest::addRow("'%s'", name) << name << "";
-    }
-    void knowsTheProducts()
-    {
-        QFETCH(QString, name);
-        QFETCH(QString, family);
-        Device plain;
-        plain.setProductName(name);
-        const std::pair<QObject *, const char *> made[] = {
-            {FactoryDevice::create(&plain), ""},
-            {FactoryDevice::create(name), ""},
-            {FactoryDeviceConfig::create(name), "Config"},
-            {FactoryExperiment::create(name), "Experiment"},
-            {FactoryLog::create(name), "Log"},
-            {FactoryResults::create(name), "Results"},
-            {FactoryFile::createForSave(name, "x"), "File"},
-        };
-        for (const auto &[object, role] : made) {
-            const std::unique_ptr<QObject> owner(object);
-            QCOMPARE(object ? QString(object->metaObject()->className()) : QString(),
-                     family.isEmpty() ? QString() : family + role);
-        }
-        const std::unique_ptr<VfPrinter> printer(FactoryPrinter::create(name));
-        QCOMPARE(printer != nullptr, !family.isEmpty());
-        QVERIFY(!FactoryExposureComponent::create(name)); // none of the two has one
     }
 
     void knowsTheEndings_data()
@@ -143,22 +83,6 @@ private slots:
         QTEST(opened ? QString(opened->metaObject()->className()) : QString(), "opened");
         const std::unique_ptr<VfFile> saved(FactoryFile::createForSave("THALVEX 2", fileName));
         QTEST(saved->fileName(), "saved");
-    }
-
-    void familyTakesOverThePlainDevice()
-    {
-        Device plain;
-        plain.setManufactoryName("morvane");
-        plain.setProductName("THALVEX 2");
-        plain.setSn("TX2-1");
-        plain.setFw("1.08");
-        plain.setCalibration({AtDateTime::fromAtString("25/11/18,10:00:00-12"), "C-1"});
-        const std::unique_ptr<Device> device(FactoryDevice::create(&plain));
-        QCOMPARE(device->toJson(), plain.toJson());
-        QCOMPARE(device->interface(), plain.interface());
-        QVERIFY(device->config() && !plain.config());
-        emit plain.interface()->ifaceErrorOcurred(QSerialPort::ResourceError);
-        QCOMPARE(device->portError(), int(QSerialPort::ResourceError));
     }
 };
 

@@ -78,14 +78,6 @@ Item {
             compare(Local.numberText(row.num, Qt.locale("pt_BR")), row.comma)
         }
 
-        function test_leftPad_data() {
-            return [{ tag: "short", number: 7, length: 3, padded: "007" },
-                    { tag: "full", number: 123, length: 3, padded: "123" },
-                    { tag: "longer", number: 1234, length: 2, padded: "1234" }]
-        }
-
-        function test_leftPad(row) { compare(Local.leftPad(row.number, row.length), row.padded) }
-
         function test_calibration_data() {
             return [{ tag: "taken", code: 0, dialog: "" },
                     { tag: "error", code: -1, dialog: "configErrorDialog" },

@@ -99,7 +99,6 @@ private slots:
     void opensOnlyWhatIsComplete();
     void bareFirstPage();
     void logo();
-    void logoThatDoesNotLoad();
     void notes_data();
     void notes();
     void signature_data();
@@ -279,18 +278,6 @@ void TestReportEngine::logo()
     QVERIFY(qGray(page.pixel(left + 12, left + 12)) < 50);
     QVERIFY(qGray(page.pixel(left + 28, left + 12)) > 200);
     QVERIFY(printed.box(QStringLiteral("Date:")).top() > 33);
-}
-
-void TestReportEngine::logoThatDoesNotLoad()
-{
-    const ExperimentChain experiment = Measurements::thalvex2({});
-    QJsonObject choices = switchedOn({QStringLiteral("logoEnable")});
-    choices.insert(QStringLiteral("logoFile"), QStringLiteral("/no/such/logo.png"));
-    SharedReport report;
-    const PrintedReport printed(&report, experiment.get(), choices);
-    SharedReport without;
-    const PrintedReport bare(&without, experiment.get(), {});
-    QCOMPARE(largestDifference(printed.image(1, 50), bare.image(1, 50)), 0.0);
 }
 
 void TestReportEngine::notes_data()
