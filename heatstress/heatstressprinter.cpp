@@ -36,8 +36,7 @@ HeatStressPrinter::HeatStressPrinter(const Words &words) : m_words(words)
 
 void HeatStressPrinter::setParameters(const QString &json)
 {
-    ReportParameters parameters = familyParameters();
-    const ReportParameters shared = {
+    readParameters(json, familyParameters(), {
         {"ckbWetTempTable", &m_ckbWetTempTable},     {"ckbDryTempTable", &m_ckbDryTempTable},
         {"ckbGlobeTempTable", &m_ckbGlobeTempTable}, {"ckbIBUTGiTable", &m_ckbIBUTGiTable},
         {"ckbIBUTGeTable", &m_ckbIBUTGeTable},       {"ckbChart", &m_ckbChart},
@@ -45,9 +44,7 @@ void HeatStressPrinter::setParameters(const QString &json)
         {"ckbGlobeTempChart", &m_ckbGlobeTempChart}, {"ckbIBUTGiChart", &m_ckbIBUTGiChart},
         {"ckbIBUTGeChart", &m_ckbIBUTGeChart},       {"ckbCsv", &m_ckbCsv},
         {"ckbCalibration", &m_ckbCalibration},
-    };
-    parameters.insert(parameters.end(), shared.cbegin(), shared.cend());
-    readParameters(json, parameters);
+    });
 }
 
 QStringList HeatStressPrinter::outputFiles() const

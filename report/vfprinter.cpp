@@ -163,7 +163,7 @@ void VfPrinter::writeCsvFile(const QByteArray &content)
     removeIncomplete(file.fileName());
 }
 
-void VfPrinter::readParameters(const QString &json, const ReportParameters &parameters)
+void VfPrinter::readParameters(const QString &json, const ReportParameters &parameters, const ReportParameters &further)
 {
     const QJsonDocument document = QJsonDocument::fromJson(json.toUtf8());
     if (!document.isObject())
@@ -192,6 +192,7 @@ void VfPrinter::readParameters(const QString &json, const ReportParameters &para
         },
         document.object());
     ::readParameters(parameters, document.object());
+    ::readParameters(further, document.object());
     setOutputFile(pathFromUrl(file));
 }
 

@@ -89,8 +89,8 @@ protected:
     void setBodyFonts();
 
     // --- parameters ---
-    /// Fills the members of \a parameters, and those that all families share, from \a json.
-    void readParameters(const QString &json, const ReportParameters &parameters);
+    /// Fills the members of \a parameters and \a further, and those that all families share, from \a json.
+    void readParameters(const QString &json, const ReportParameters &parameters, const ReportParameters &further = {});
 
     // --- the page ---
     int windowWidth() const { return m_painter->window().width(); }

@@ -62,17 +62,14 @@ SoundLevelPrinter::SoundLevelPrinter()
 
 void SoundLevelPrinter::setParameters(const QString &json)
 {
-    ReportParameters parameters = familyParameters();
-    const ReportParameters shared = {
+    readParameters(json, familyParameters(), {
         {"emplInfoEnable", &m_emplInfoEnable}, {"emplName", &m_emplName},
         {"ckbChartLvl", &m_ckbChartLvl},       {"ckbLeqZ", &m_ckbLeqZ},
         {"ckbLeqA", &m_ckbLeqA},               {"ckbLeqC", &m_ckbLeqC},
         {"ckbPreChk", &m_ckbPreChk},           {"ckbPosChk", &m_ckbPosChk},
         {"ckbCalLab", &m_ckbCalLab},           {"ckbCalAudLab", &m_ckbCalAudLab},
         {"audCertified", &m_audCertified},     {"ckbCalField", &m_ckbCalField},
-    };
-    parameters.insert(parameters.end(), shared.cbegin(), shared.cend());
-    readParameters(json, parameters);
+    });
 }
 
 const SoundLevelResults &SoundLevelPrinter::resultsOf(const Experiment &experiment)

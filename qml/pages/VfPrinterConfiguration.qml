@@ -211,12 +211,16 @@ Window {
                 onMyButtonclicked: window.submit()
             }
         }
-        VfText {
-            id: warning
+        Item { // keeps its place, so that the buttons keep theirs
+            implicitHeight: warning.implicitHeight
 
-            color: Theme.warning
-            text: qsTr("File name shall not be empty")
-            visible: false
+            VfText {
+                id: warning
+
+                color: Theme.warning
+                text: qsTr("File name shall not be empty")
+                visible: false
+            }
         }
     }
 }
