@@ -52,6 +52,12 @@ green #2a8c3c
 black #202020
 END
 
+# The sensors of the logger, larger than they are shown: a display may be finer than a drawing's pixels.
+for icon in svg/sensors/*.svg; do
+    name=$(basename "$icon" .svg)
+    render "sensors/$name" "images/$name.png" 80
+done
+
 for size in 16 24 32 48 64 128 256; do
     render mark "$work/mark$size.png" $size
 done

@@ -8,12 +8,15 @@ VfListItem {
     id: item
 
     property string text
+    /// What was measured: a picture, and a word for those who cannot see it.
+    property string picture
+    property string kind
     /// What stands beside it: [{text, width}]; a line without a width takes what it needs.
     property var lines: []
     property bool checkable: ListView.view !== null && ListView.view.checkable === true
     property bool checked: checkable && ListView.view.picked.indexOf(index) >= 0
 
-    description: [text].concat(lines.map(function (line) { return line.text })).join(" ")
+    description: [text].concat(kind || [], lines.map(function (line) { return line.text })).join(" ")
     Accessible.checkable: checkable
     Accessible.checked: checked
 
@@ -30,6 +33,14 @@ VfListItem {
         color: item.textColor
         font { pixelSize: Theme.largeSize; bold: true }
         whole: item.text
+    }
+    Image {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 40
+        height: 40
+        mipmap: true    // shown smaller than it is, on most displays
+        source: item.picture
+        visible: item.picture !== ""
     }
     Repeater {
         model: item.lines
