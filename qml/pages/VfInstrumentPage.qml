@@ -17,6 +17,8 @@ VfPage {
     property Component experimentDelegate
     /// Whether several experiments are ticked and then accepted; else a click picks one.
     property bool severalAtOnce: false
+    /// Whether what is accepted together has to be of one type.
+    property bool oneType: false
     /// Whether a file that could not be written is told as a failed download too.
     property bool tellsFailedSaving: false
     /// A VfConfigurationWindow, made when it is first asked for.
@@ -70,8 +72,11 @@ VfPage {
     }
 
     function accept() {
-        if (selectedIdx.length === 0)
+        var types = selectedIdx.map(function (position) { return core.experimentList[position].type })
+        if (types.length === 0)
             warning.text = qsTr("You shall select at least one exposure component")
+        else if (oneType && types.some(function (type) { return type !== types[0] }))
+            warning.text = qsTr("The selected exposure components shall be the same application")
         else
             chooseFile(proposedName())
     }

@@ -22,6 +22,8 @@ Item {
     property string refusal
     /// Whether several experiments are ticked and accepted.
     property bool several: false
+    /// Whether those have to be of one type; the second experiment is then of another type than the others.
+    property bool oneType: false
     /// The experiments in the instrument's memory, and the texts of the second one's item.
     property var experiments
     property var secondTexts
@@ -160,7 +162,7 @@ Item {
             press(window.contentItem, "Erase memory")
             compare(Dialogs.open(made.dialogs), "eraseDialog")
             compare(core.calls, [])
-            core.devName = "ZELK"
+            core.devName = "ARDEL 2"
             core.eraseStarted()
             compare(Dialogs.open(made.dialogs), "eraseDialog")
             core.devName = testWindow.product
@@ -234,8 +236,16 @@ Item {
                 return verify(!Items.first(made, "buttonLabel", "Accept"))
             press(made, "Accept")
             compare([made.warningText1, made.saveDialog], ["You shall select at least one exposure component", null])
-            verify(Items.texts(made).indexOf(made.warningText1) >= 0);
-            [2, 1, 0, 1].forEach(function (place) { mouseClick(made.list.view.itemAtIndex(place)) })
+            verify(Items.texts(made).indexOf(made.warningText1) >= 0)
+            if (testWindow.oneType) {
+                [1, 0].forEach(function (place) { mouseClick(made.list.view.itemAtIndex(place)) })
+                press(made, "Accept")
+                compare([made.warningText1, made.saveDialog],
+                        ["The selected exposure components shall be the same application", null]);
+                [0, 1].forEach(function (place) { mouseClick(made.list.view.itemAtIndex(place)) })
+            }
+            mouseClick(made.list.view.itemAtIndex(2));
+            [1, 0, 1].forEach(function (place) { mouseClick(made.list.view.itemAtIndex(place)) })
             compare([made.selectedIdx, made.warningText1], [[2, 0], ""])
             compare([0, 1, 2].map(function (place) { return made.list.view.itemAtIndex(place).checked }), [true, false, true])
             press(made, "Accept")
