@@ -30,6 +30,30 @@ struct LeqPerOctave : OctaveBand {
     }
 };
 
+/// All bands of a measurement, low to high.
+struct LeqSpectrum {
+    QString count; ///< as the instrument tells it; empty when it tells of none
+    QVector<LeqPerOctave> bands;
+
+    static const Fields<LeqSpectrum> &fields()
+    {
+        static const Fields<LeqSpectrum> table = {
+            {"numFreq", NotOnWire, 0, &LeqSpectrum::count},
+            {"leqList", NotOnWire, 0, listOf(&LeqSpectrum::bands)},
+        };
+        return table;
+    }
+
+    /// Reads header \a number, a line for each band: 0, or -1 unless they are as many as it tells of.
+    [[nodiscard]] int parse(int number, const QByteArray &answer, ForeignLine foreign)
+    {
+        const auto lines = readLines<LeqPerOctave>(number, answer, 6, foreign);
+        count = lines.count;
+        bands = lines.parts;
+        return lines.isComplete() ? 0 : -1;
+    }
+};
+
 /// A band of vibration.
 struct AmrPerOctave : OctaveBand {
     QString amr() const { return value; }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/results.h"
 
+#include "model/clocktext.h"
+
 const Fields<Results> &Results::closingFields()
 {
     static const Fields<Results> rows = {
@@ -20,6 +22,13 @@ int Results::parseClosingRecord(const QByteArray &text)
         return -1;
     m_stopReason = QString::fromUtf8(record[6]); // the one text that instruments send as UTF-8
     return 0;
+}
+
+QJsonObject SecondsResults::toJson() const
+{
+    QJsonObject object = TimedResults::toJson();
+    object.insert(QLatin1String("durationStr"), clockText(m_duration.toInt()));
+    return object;
 }
 
 int Results::refreshWorkingHours(const QString &)

@@ -73,6 +73,16 @@ protected:
     QDateTime m_stopTime;
 };
 
+/// The same with a duration in whole seconds; JSON has it as "hh:mm:ss" besides, under "durationStr", which is not read
+/// back.
+class SecondsResults : public TimedResults
+{
+    Q_OBJECT
+
+public:
+    QJsonObject toJson() const override;
+};
+
 /// Results over \a Base that are described by their table: \a T has `static const Fields<T> &fields()` for this base to use.
 /// A \a Base with a table of its own is written and read beside it.
 template <class T, class Base = TimedResults> class ResultsOf : public Base

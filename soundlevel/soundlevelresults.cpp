@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "soundlevel/soundlevelresults.h"
 
-#include "model/clocktext.h"
-
 const Fields<SoundLevelResults> &SoundLevelResults::fields()
 {
     using R = SoundLevelResults;
@@ -24,14 +22,13 @@ const Fields<SoundLevelResults> &SoundLevelResults::fields()
             {"lMaxDateTime", 2, 6, &R::m_lMaxDateTime},
             {"SEL", 2, 8, &R::m_SEL, Form::Dashed},
             {"lPeak", 2, 9, &R::m_lPeak, Form::Dashed},
-            {"numFreq", NotOnWire, 0, &R::m_numFreq},
-            {"leqList", NotOnWire, 0, listOf(&R::m_leqList)},
             {"l05", 5, 2, &R::m_l05, Form::Dashed},
             {"l10", 5, 3, &R::m_l10, Form::Dashed},
             {"l50", 5, 4, &R::m_l50, Form::Dashed},
             {"l90", 5, 5, &R::m_l90, Form::Dashed},
             {"l95", 5, 6, &R::m_l95, Form::Dashed},
         },
+        partRows(&R::m_spectrum, {}),
         partRows(&R::m_fieldChecks, "Chk"),
     });
     return rows;
@@ -39,17 +36,7 @@ const Fields<SoundLevelResults> &SoundLevelResults::fields()
 
 int SoundLevelResults::parseHeader3(const QByteArray &answer)
 {
-    const auto bands = readLines<LeqPerOctave>(3, answer, 6, ForeignLine::EndsTheWalk);
-    m_numFreq = bands.count;
-    m_leqList = bands.parts;
-    return bands.isComplete() ? 0 : -1;
-}
-
-QJsonObject SoundLevelResults::toJson() const
-{
-    QJsonObject object = ResultsOf::toJson();
-    object.insert(QLatin1String("durationStr"), clockText(m_duration.toInt()));
-    return object;
+    return m_spectrum.parse(3, answer, ForeignLine::EndsTheWalk);
 }
 
 void SoundLevelResults::fromJson(const QJsonObject &object)

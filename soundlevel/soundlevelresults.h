@@ -7,7 +7,7 @@
 
 /// What the sound level meters tell alike of a measurement. They compute every level themselves; levels are in dB and stay
 /// the texts that were sent. `duration` is in whole seconds.
-class SoundLevelResults : public ResultsOf<SoundLevelResults>
+class SoundLevelResults : public ResultsOf<SoundLevelResults, SecondsResults>
 {
     Q_OBJECT
 
@@ -42,7 +42,7 @@ public:
     QString l95() const { return m_l95; }
 
     /// Low to high, weighting Z; empty without octave analysis.
-    const QVector<LeqPerOctave> &leqList() const { return m_leqList; }
+    const QVector<LeqPerOctave> &leqList() const { return m_spectrum.bands; }
     const FieldChecks &fieldChecks() const { return m_fieldChecks; }
 
     /// General data: at least 13 fields. 0, or -1 for an answer that is refused.
@@ -54,8 +54,6 @@ public:
     /// Statistics: at least 7 fields.
     [[nodiscard]] int parseHeader5(const QByteArray &answer) { return readHeader(5, answer, 7); }
 
-    /// With "durationStr", the duration as "hh:mm:ss", which is not read back.
-    QJsonObject toJson() const override;
     void fromJson(const QJsonObject &object) override;
 
     static const Fields<SoundLevelResults> &fields();
@@ -80,7 +78,6 @@ protected:
     QString m_l95;
 
 private:
-    QString m_numFreq;
-    QVector<LeqPerOctave> m_leqList;
+    LeqSpectrum m_spectrum;
     FieldChecks m_fieldChecks;
 };
