@@ -239,10 +239,11 @@ int Core::eraseMemory()
 
 void Core::refreshWorkingHours(QString expParam)
 {
-    if (!m_experiment || m_experiment->results()->refreshWorkingHours(expParam) != 0)
+    if (!m_experiment)
         return;
-    m_experimentText = QString();
-    emit resultsUpdated(m_experiment->chainPosition());
+    m_experimentText = QString(); // working hours that are refused are kept too
+    if (m_experiment->results()->refreshWorkingHours(expParam) == 0)
+        emit resultsUpdated(m_experiment->chainPosition());
 }
 
 void Core::refreshPartialResults(QString exposureComponentList)

@@ -91,3 +91,4 @@ FamilyCase thalvex2Case();
 FamilyCase thalvex4Case();
 FamilyCase nembraCase();
 FamilyCase nembraPlusCase();
+FamilyCase ardel2Case();
