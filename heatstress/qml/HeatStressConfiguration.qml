@@ -16,10 +16,9 @@ VfConfigurationWindow {
     }
 
     function collected() {
-        if (!/^([0-5]\d):([0-5]\d)$/.test(sampleTime.text)) {
-            warning = qsTr("The sample time field shall have mm:ss format")
+        warning = sampleTime.fault
+        if (warning)
             return null
-        }
         var configuration = { sampleTime: sampleTime.text }
         if (unity.isChosen)
             configuration.unity = unity.value
@@ -39,13 +38,12 @@ VfConfigurationWindow {
         height: 130
         label: qsTr("Sample time") + qsTr(" (mm:ss)*")
 
-        VfInputText {
+        VfClockField {
             id: sampleTime
 
-            fieldWidth: 90
-            inputMask: "00:00"
-            maximumLength: 5
+            form: "mm:ss"
             description: qsTr("Sample time")
+            refusal: qsTr("The sample time field shall have mm:ss format")
         }
     }
 }

@@ -4,12 +4,13 @@ import "../widgets"
 import "experiments.js" as Experiments
 import "records.js" as Records
 
-/// The base of the results pages: hears of every new experiment, takes those of its own product, and walks along a chain.
-/// A family names its data block, its view and its report window, and fills the view.
-VfPage {
+/// The base of the results pages: hears of every new experiment, and walks along a chain. A family names its data block, its
+/// view and its report window, and fills the view.
+VfExperimentPage {
     id: page
 
-    property string productName
+    /// Whether another page comes between an experiment and its results.
+    property bool afterAnother: false
     /// The block of experiment data; its item has a property experiment, and takes no more than the width room.
     property Component info
     /// The heavy inside, made with the first experiment.
@@ -30,32 +31,23 @@ VfPage {
     /// A family hands the experiment to its view, which has a function forget() too.
     function fill(parsed) {}
 
-    /// Every results page hears of every experiment, and even to look at a long text costs. The page of the session's
-    /// product looks at once; the others look only when the experiment turned out not to be that page's.
-    function update(position) {
-        if (!core.devName || core.devName === productName)
-            take(position)
-        else
-            Qt.callLater(takeLeft, position)
-    }
+    /// Only the results of the experiment shown are new: its records, and what the user looks at or types, can stay.
+    function refreshed(parsed) { fill(parsed) }
 
-    function takeLeft(position) {
-        if (Experiments.taken !== core.devName)
-            take(position)
-    }
-
-    function take(position) {
-        var text = core.experiment.toString(), own = Experiments.deviceName(text) === productName
-        if (core.devName === productName)
-            Experiments.taken = own ? productName : ""
-        if (!own)
-            return
-        // Records are many: let go of the old ones first.
+    /// Records are many: the old ones go before others come.
+    function letGo() {
         experiment = null
-        if (viewItem) {
-            viewItem.forget()
-            infoItem.experiment = {}
-        }
+        if (!viewItem)
+            return
+        viewItem.forget()
+        infoItem.experiment = {}
+    }
+
+    function take(text, position) {
+        var same = experiment !== null && Experiments.member(text, "eventIndex") === experiment.eventIndex
+        var records = same ? experiment.logList : null
+        if (!same)
+            letGo()
         experiment = Records.read(text)
         if (!experiment)
             return dialogs.invalidFileDialog.open()
@@ -63,8 +55,10 @@ VfPage {
         next.visible = position === root.expFirstItem || position === root.expMiddleItem
         viewLoader.active = true
         infoLoader.active = true
+        if (same)
+            experiment.logList = records
         infoItem.experiment = experiment
-        fill(experiment)
+        same ? refreshed(experiment) : fill(experiment)
         showResults()
     }
 
@@ -171,7 +165,11 @@ VfPage {
 
     Connections {
         target: core
-        function onExperimentUpdated(position) { page.update(position) }
+        function onExperimentUpdated(position) {
+            page.letGo()
+            if (!page.afterAnother)
+                page.update(position)
+        }
         function onResultsUpdated(position) { page.update(position) }
         function onDeviceDisconnected() {
             if (reportLoader.item)

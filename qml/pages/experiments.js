@@ -6,18 +6,18 @@
 // The product of the session's instrument while its own page shows the experiment; "" while that is another's.
 var taken = ""
 
-// The product of an experiment's JSON text, read from its head: the keys are sorted, and a day of records is a long text.
-// Only where the head does not tell (a very long name in front) is the whole text parsed.
-function deviceName(text) {
-    var member = /^\s*[{,]\s*"((?:[^"\\]|\\.)*)"\s*:\s*("(?:[^"\\]|\\.)*"|[^\s",{}\[\]]+)\s*(?=[,}])/
+// The value of a key of an experiment's JSON text, read from its head: the keys are sorted, and a day of records is a long
+// text. Only where the head does not tell (a very long name in front) is the whole text parsed.
+function member(text, key) {
+    var pattern = /^\s*[{,]\s*"((?:[^"\\]|\\.)*)"\s*:\s*("(?:[^"\\]|\\.)*"|[^\s",{}\[\]]+)\s*(?=[,}])/
     var head = text.substring(0, 300)
-    for (var found = member.exec(head); found; found = member.exec(head)) {
-        if (found[1] === "deviceName")
-            return JSON.parse(found[2])
+    for (var found = pattern.exec(head); found; found = pattern.exec(head)) {
+        if (found[1] === key)
+            return Records.parsed(found[2])
         head = head.substring(found[0].length)
     }
     var experiment = Records.read(text)
-    return experiment ? experiment.deviceName : undefined
+    return experiment ? experiment[key] : undefined
 }
 
 // A name, without ending, for the file of the picked entries {index, dateTime} of an instrument's list. The system with the

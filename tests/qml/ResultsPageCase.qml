@@ -88,6 +88,19 @@ Item {
             compare([texts[texts.indexOf("Date:") + 1], texts[texts.indexOf("Pause time:") + 1]], ["---", "---"])
         }
 
+        /// Of an experiment whose results alone are new the records stay.
+        function test_newResults() {
+            show(-2)
+            var records = made.experiment.logList, experiment = testWindow.experiment()
+            experiment.results.pauseTime = "00:00:11"
+            for (var stays = true; experiment.eventIndex < 4; stays = false, ++experiment.eventIndex) {
+                core.experiment = JSON.stringify(experiment)
+                core.resultsUpdated(0)
+                compare(made.experiment.logList === records, stays)
+                verify(Items.texts(made.infoItem).indexOf("00:00:11") > 0)
+            }
+        }
+
         /// What a file says is text and of bounded length, wherever it is shown.
         function test_textsAreNoMarkup_data() {
             return [{ tag: "picture", text: "<img src=\"http://127.0.0.1:9/x\">" }, { tag: "entity", text: "&lt;b>" },

@@ -53,6 +53,7 @@ QtObject {
     function nextExp() { called("nextExp") }
     function prevExp() { called("prevExp") }
     function generateReport(cfg) { return called("generateReport", cfg) }
+    function refreshWorkingHours(hours) { called("refreshWorkingHours", hours) }
     function acquireConfiguration() { return called("acquireConfiguration") }
     function sndConfiguration(cfg) { return called("sndConfiguration", cfg) }
     function createExperiment(list) { return called("createExperiment", list) }

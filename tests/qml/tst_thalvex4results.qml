@@ -131,6 +131,7 @@ HeatStressResultsCase {
             show(results.withUnits(3))
             made.viewItem.setUnit(2)
             var other = results.withUnits(3)
+            other.eventIndex += 1
             other.logList[0].enviromentalFactorsList[0].WBGTo = "33.3"
             core.experiment = JSON.stringify(other)
             core.resultsUpdated(-1)

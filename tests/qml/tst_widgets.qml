@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
+import QtQuick.Window 2.15
 import QtTest 1.15
 import "../../qml/widgets"
 import "qrc:/qml/widgets"
@@ -32,7 +33,11 @@ Item {
         onListClicked: { clicked = clicked.concat(indexItem); picked = [1] }
     }
 
+    VfWorkingHours { id: hours; y: 520 }
+
     TestCase {
+        id: testCase
+
         name: "widgets"
         when: windowShown
         visible: true
@@ -106,6 +111,34 @@ Item {
             calendar.choose(new Date(2022, 0, 31))
             verify(!calendar.visible)
             compare(calibration.date.getTime(), new Date(2022, 0, 31).getTime())
+        }
+
+        /// Typed with the keyboard alone, over what stood there.
+        function test_workingHours_data() {
+            var form = "Working hours field shall have hh:mm format"
+            return [{ tag: "longest", typed: "2359", text: "23:59", sent: "23:59", told: true, warning: "" },
+                    { tag: "a day", typed: "2400", text: "24:00", warning: form },
+                    { tag: "sixty minutes", typed: "0760", text: "07:60", warning: form },
+                    { tag: "a digit short", typed: "7", text: "7:", warning: form },
+                    { tag: "nothing", typed: "", text: ":", warning: form },
+                    { tag: "of no length", typed: "0000", text: "00:00", sent: "00:00",
+                      warning: "Working hours of 00:00 leave the results as they are" }]
+        }
+        function test_workingHours(row) {
+            testCase.Window.window.requestActivate()
+            hours.show(row.typed ? "08:00" : "")
+            core.meanwhile = function () { if (row.told) hours.show(row.sent) }
+            var field = Items.all(hours, function (item) { return item.inputMask !== undefined && item.selectByMouse })[0]
+            field.focus = false
+            mouseClick(field, field.width - 4, field.height / 2)
+            tryVerify(function () { return field.activeFocus })
+            row.typed.split("").forEach(function (digit) { keyClick(digit) })
+            compare(field.text, row.text)
+            keyClick(Qt.Key_Return)
+            compare(core.calls, row.sent ? [["refreshWorkingHours", "{\"workingHours\":\"" + row.sent + "\"}"]] : [])
+            compare(hours.warning, row.warning)
+            hours.show("07:30")
+            compare([field.text, hours.warning], ["07:30", ""])
         }
 
         function test_ticks() {
