@@ -8,6 +8,7 @@
 #include "model/exposurecomponent.h"
 #include "model/filename.h"
 #include "model/jsontext.h"
+#include "model/memory.h"
 #include "report/vfprinter.h"
 
 #include <QCoreApplication>
@@ -242,6 +243,7 @@ void Core::parseFile(QString fileName)
     beginSession(DevicePtr(m_file->parseDevice(content)));
     if (m_device)
         setChain(ExperimentChain(m_file->parseExperiment(std::move(content))));
+    returnFreedMemory(); // of a day of records the text and what it was parsed into are many times the records
     if (m_file->status() != VfFile::NoError) {
         beginSession(nullptr);
         setChain(nullptr);

@@ -4,9 +4,13 @@
 #include <QHash>
 #include <QTimeZone>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int SecondsInQuarter = 900;
+constexpr int MostQuarters = 56; ///< 14 hours, what a zone may be off from UTC
+constexpr int Century = 2000;
 
 /// Reads the two digits at \a at; -1 when they are none.
 int twoDigits(const QChar *at)
@@ -35,45 +39,76 @@ void appendTwoDigits(QString &text, int number)
 
 } // namespace
 
+AtMoment::AtMoment(const QDateTime &t)
+    : m_quarters(static_cast<qint8>(t.offsetFromUtc() / SecondsInQuarter)), m_valid(t.isValid())
+{
+    if (!m_valid)
+        return;
+    const QDate date = t.date();
+    const QTime time = t.time();
+    const int parts[] = {date.year() % 100, date.month(), date.day(), time.hour(), time.minute(), time.second()};
+    std::copy(std::begin(parts), std::end(parts), m_parts.begin());
+}
+
 // Digits are taken by hand: the library's parser would pass through the reader's own zone and move an hour that its
 // summer time skips, and it is twenty times slower, which decides how long a day of records takes to open.
-QDateTime AtDateTime::fromAtString(const QString &s)
+AtMoment AtMoment::fromText(const QString &s)
 {
     constexpr int FrontLength = 17;
     static const char separators[] = {'/', '/', ',', ':', ':'};
     if (s.size() < FrontLength)
         return {};
-    int part[6];
+    AtMoment moment;
     for (int i = 0; i < 6; ++i) {
-        part[i] = twoDigits(s.constData() + 3 * i);
-        if (part[i] < 0 || (i < 5 && s.at(3 * i + 2) != QLatin1Char(separators[i])))
+        const int part = twoDigits(s.constData() + 3 * i);
+        if (part < 0 || (i < 5 && s.at(3 * i + 2) != QLatin1Char(separators[i])))
             return {};
+        moment.m_parts[i] = static_cast<quint8>(part);
     }
-    const QDate date(2000 + part[0], part[1], part[2]);
-    const QTime time(part[3], part[4], part[5]);
-    if (!date.isValid() || !time.isValid())
+    const int quarters = s.rightRef(3).toInt();
+    const auto &[year, month, day, hour, minute, second] = moment.m_parts;
+    if (!QDate::isValid(Century + year, month, day) || !QTime::isValid(hour, minute, second) || qAbs(quarters) > MostQuarters)
         return {};
-    return {date, time, zoneFor(s.rightRef(3).toInt())};
+    moment.m_quarters = static_cast<qint8>(quarters);
+    moment.m_valid = true;
+    return moment;
+}
+
+QString AtMoment::text() const
+{
+    QString text;
+    text.reserve(20);
+    for (int i = 0; m_valid && i < 6; ++i) {
+        if (i > 0)
+            text += QLatin1Char("//,::"[i - 1]);
+        appendTwoDigits(text, m_parts[i]);
+    }
+    text += QLatin1Char(m_quarters < 0 ? '-' : '+');
+    appendTwoDigits(text, qAbs(m_quarters));
+    return text;
+}
+
+QDateTime AtMoment::dateTime() const
+{
+    if (!m_valid)
+        return {};
+    const auto &[year, month, day, hour, minute, second] = m_parts;
+    return {QDate(Century + year, month, day), QTime(hour, minute, second), zoneFor(m_quarters)};
+}
+
+bool AtMoment::operator==(const AtMoment &other) const
+{
+    return m_parts == other.m_parts && m_quarters == other.m_quarters && m_valid == other.m_valid;
+}
+
+QDateTime AtDateTime::fromAtString(const QString &s)
+{
+    return AtMoment::fromText(s).dateTime();
 }
 
 QString AtDateTime::toAtString(const QDateTime &t)
 {
-    QString text;
-    text.reserve(20);
-    if (t.isValid()) {
-        const QDate date = t.date();
-        const QTime time = t.time();
-        const int numbers[] = {date.year() % 100, date.month(), date.day(), time.hour(), time.minute(), time.second()};
-        for (int i = 0; i < 6; ++i) {
-            if (i > 0)
-                text += QLatin1Char("//,::"[i - 1]);
-            appendTwoDigits(text, numbers[i]);
-        }
-    }
-    const int quarters = t.offsetFromUtc() / SecondsInQuarter;
-    text += QLatin1Char(quarters < 0 ? '-' : '+');
-    appendTwoDigits(text, qAbs(quarters));
-    return text;
+    return AtMoment(t).text();
 }
 
 QDateTime AtDateTime::dateForMonthDay(int day)

@@ -93,7 +93,7 @@ QString sharedText(const QString &text)
     return place;
 }
 
-QDateTime wireDate(const Pieces &pieces, int at)
+AtMoment wireMoment(const Pieces &pieces, int at)
 {
-    return AtDateTime::fromAtString(QString::fromLatin1(pieces.value(at) + ',' + pieces.value(at + 1)));
+    return AtMoment::fromText(QString::fromLatin1(pieces.value(at) + ',' + pieces.value(at + 1)));
 }

@@ -57,8 +57,8 @@ template <class T> struct Field {
     QByteArray key; ///< key in files and on the pages
     int header;     ///< number of the header that carries it, or NotOnWire or InRecord
     int piece;      ///< place in that header or record, from 0; a date takes this place and the next
-    std::variant<QString T::*, int T::*, double T::*, bool T::*, QDateTime T::*, QStringList T::*,
-                 std::shared_ptr<const Nested<T>>>
+    std::variant<QString T::*, int T::*, double T::*, bool T::*, QDateTime T::*, AtMoment T::*,
+                 QStringList T::*, std::shared_ptr<const Nested<T>>>
         member;
     Form form = Form::Plain;
 };
@@ -106,8 +106,13 @@ QString wireText(const QByteArray &piece, Form form);
 /// thousand, and kept apart they are most of what an opened file takes of the memory.
 QString sharedText(const QString &text);
 
-/// The date that stands in pieces \a at and \a at + 1.
-QDateTime wireDate(const Pieces &pieces, int at);
+/// The moment that stands in pieces \a at and \a at + 1.
+AtMoment wireMoment(const Pieces &pieces, int at);
+/// The same as a date.
+inline QDateTime wireDate(const Pieces &pieces, int at)
+{
+    return wireMoment(pieces, at).dateTime();
+}
 
 /// What a line does that belongs to another header.
 enum class ForeignLine { IsSkipped, EndsTheWalk };
@@ -146,6 +151,7 @@ template <class T> void readPiece(T &record, const Field<T> &field, const Pieces
                    [&](double T::*number) { record.*number = piece.toDouble(); },
                    [&](bool T::*flag) { record.*flag = piece == "1"; },
                    [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
+                   [&](AtMoment T::*moment) { record.*moment = wireMoment(pieces, at); },
                    [&](QStringList T::*) {},
                    [&](const std::shared_ptr<const Nested<T>> &part) { part->readPiece(record, pieces, at); },
                },
@@ -212,6 +218,7 @@ template <class T> QJsonValue toJsonValue(const T &record, const Field<T> &field
 {
     return std::visit(Overloaded{
                           [&](QDateTime T::*date) { return QJsonValue(dateText(record.*date, field.form)); },
+                          [&](AtMoment T::*moment) { return QJsonValue((record.*moment).text()); },
                           [&](QStringList T::*texts) { return QJsonValue(QJsonArray::fromStringList(record.*texts)); },
                           [&](const std::shared_ptr<const Nested<T>> &part) { return part->toJson(record); },
                           [&](auto member) { return QJsonValue(record.*member); },
@@ -227,6 +234,7 @@ template <class T> void fromJsonValue(T &record, const Field<T> &field, const QJ
                    [&](double T::*number) { record.*number = value.toDouble(); },
                    [&](bool T::*flag) { record.*flag = value.toBool(); },
                    [&](QDateTime T::*date) { record.*date = AtDateTime::fromAtString(value.toString()); },
+                   [&](AtMoment T::*moment) { record.*moment = AtMoment::fromText(value.toString()); },
                    [&](QStringList T::*texts) { record.*texts = textsOf(value.toArray()); },
                    [&](const std::shared_ptr<const Nested<T>> &part) { part->fromJson(record, value); },
                },
@@ -237,6 +245,7 @@ template <class T> void writeValue(JsonText &out, const T &record, const Field<T
 {
     std::visit(Overloaded{
                    [&](QDateTime T::*date) { out.value(dateText(record.*date, field.form)); },
+                   [&](AtMoment T::*moment) { out.value((record.*moment).text()); },
                    [&](const std::shared_ptr<const Nested<T>> &part) { part->writeText(record, out); },
                    [&](double T::*number) { out.value(QJsonValue(record.*number)); },
                    [&](bool T::*flag) { out.value(QJsonValue(record.*flag)); },

@@ -3,9 +3,10 @@
 
 void Log::setRegisterDate(const QDateTime &date)
 {
-    if (m_registerDate == date)
+    const AtMoment moment(date);
+    if (m_registerDate == moment)
         return;
-    m_registerDate = date;
+    m_registerDate = moment;
     emit logItemChanged();
 }
 

@@ -14,8 +14,8 @@ class Log : public QObject
 public:
     using QObject::QObject;
 
-    /// The moment of the record, in the instrument's zone.
-    QDateTime registerDate() const { return m_registerDate; }
+    /// The moment of the record to the second, in the instrument's zone.
+    QDateTime registerDate() const { return m_registerDate.dateTime(); }
     void setRegisterDate(const QDateTime &date);
 
     /// Reads one "+VFRDXP: " line: 0, or 1 for a record that is refused.
@@ -31,7 +31,7 @@ signals:
     void logItemChanged();
 
 protected:
-    QDateTime m_registerDate;
+    AtMoment m_registerDate;
 };
 
 /// The pieces of a "+VFRDXP: " line, up to a NUL.

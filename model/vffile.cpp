@@ -3,7 +3,6 @@
 
 #include "model/buildinfo.h"
 #include "model/jsontext.h"
-#include "model/memory.h"
 
 #include <QCryptographicHash>
 #include <QFileInfo>
@@ -63,14 +62,8 @@ Experiment *VfFile::readExperiments(const QByteArray &content, Experiment *(*new
 {
     (void)frame(content);
     m_framed.clear();
-    Experiment *first = nullptr;
-    {
-        const QJsonObject root = std::exchange(m_document, {}); // a day of records is large: gone with the last use
-        if (m_status == NoError)
-            first = readBody(root, newExperiment, members);
-    }
-    returnFreedMemory();
-    return first;
+    const QJsonObject root = std::exchange(m_document, {}); // a day of records is large: gone with the last use
+    return m_status == NoError ? readBody(root, newExperiment, members) : nullptr;
 }
 
 Experiment *VfFile::readBody(const QJsonObject &root, Experiment *(*newExperiment)(), Members members)
