@@ -11,6 +11,7 @@ Item {
     property Component page
     property string product
     property string title
+    property string configurationTitle: title + " - Configuration"
     property var nameFilters
     property int configurationHeight: 340
     /// A configuration as the page reads it, without its product.
@@ -99,7 +100,7 @@ Item {
             var window = configured(testWindow.configuration)
             compare([window.width, window.height], [600, testWindow.configurationHeight])
             compare(window.modality, Qt.ApplicationModal)
-            compare(window.title, testWindow.title + " - Configuration")
+            compare(window.title, testWindow.configurationTitle)
             press(window.contentItem, "Close")
             verify(!window.visible)
             press(made, "Configure")
@@ -306,7 +307,7 @@ Item {
         function test_progress() {
             core.progressBarUpdated(40)
             compare(made.progress, 40)
-            core.devName = "ZELK"
+            core.devName = "ARDEL 2"
             core.progressBarUpdated(80)
             compare(made.progress, 40)
         }
