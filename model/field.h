@@ -57,9 +57,9 @@ template <class T> struct Field {
     QByteArray key; ///< key in files and on the pages
     int header;     ///< number of the header that carries it, or NotOnWire or InRecord
     int piece;      ///< place in that header or record, from 0; a date takes this place and the next
-    std::variant<QString T::*, int T::*, double T::*, bool T::*, QDateTime T::*, AtMoment T::*,
-                 QStringList T::*, std::shared_ptr<const Nested<T>>>
-        member;
+    std::variant<QString T::*, int T::*, double T::*, bool T::*, QDateTime T::*, AtMoment T::*, QStringList T::*,
+                 std::shared_ptr<const Nested<T>>, QString (T::*)() const>
+        member; ///< a function is a text that is worked out when it is written, and never read
     Form form = Form::Plain;
 };
 template <class T> using FieldRows = std::vector<Field<T>>;
@@ -153,6 +153,7 @@ template <class T> void readPiece(T &record, const Field<T> &field, const Pieces
                    [&](QDateTime T::*date) { record.*date = wireDate(pieces, at); },
                    [&](AtMoment T::*moment) { record.*moment = wireMoment(pieces, at); },
                    [&](QStringList T::*) {},
+                   [&](QString (T::*)() const) {},
                    [&](const std::shared_ptr<const Nested<T>> &part) { part->readPiece(record, pieces, at); },
                },
                field.member);
@@ -220,6 +221,7 @@ template <class T> QJsonValue toJsonValue(const T &record, const Field<T> &field
                           [&](QDateTime T::*date) { return QJsonValue(dateText(record.*date, field.form)); },
                           [&](AtMoment T::*moment) { return QJsonValue((record.*moment).text()); },
                           [&](QStringList T::*texts) { return QJsonValue(QJsonArray::fromStringList(record.*texts)); },
+                          [&](QString (T::*text)() const) { return QJsonValue((record.*text)()); },
                           [&](const std::shared_ptr<const Nested<T>> &part) { return part->toJson(record); },
                           [&](auto member) { return QJsonValue(record.*member); },
                       },
@@ -236,6 +238,7 @@ template <class T> void fromJsonValue(T &record, const Field<T> &field, const QJ
                    [&](QDateTime T::*date) { record.*date = AtDateTime::fromAtString(value.toString()); },
                    [&](AtMoment T::*moment) { record.*moment = AtMoment::fromText(value.toString()); },
                    [&](QStringList T::*texts) { record.*texts = textsOf(value.toArray()); },
+                   [&](QString (T::*)() const) {},
                    [&](const std::shared_ptr<const Nested<T>> &part) { part->fromJson(record, value); },
                },
                field.member);
@@ -249,6 +252,7 @@ template <class T> void writeValue(JsonText &out, const T &record, const Field<T
                    [&](const std::shared_ptr<const Nested<T>> &part) { part->writeText(record, out); },
                    [&](double T::*number) { out.value(QJsonValue(record.*number)); },
                    [&](bool T::*flag) { out.value(QJsonValue(record.*flag)); },
+                   [&](QString (T::*text)() const) { out.value((record.*text)()); },
                    [&](auto member) { out.value(record.*member); },
                },
                field.member);
