@@ -4,6 +4,8 @@
 #include "model/log.h"
 #include "model/results.h"
 
+#include <algorithm>
+
 Experiment::Experiment(const QString &deviceName, ListLine listLine) : m_listLine(listLine), m_deviceName(deviceName)
 {
 }
@@ -55,15 +57,36 @@ void Experiment::copyFrom(const Experiment *other)
     setDateTime(other->dateTime());
 }
 
+/// The lines of the record that begins at \a at; 0 when they are not all there.
+int Experiment::recordLength(const QList<QByteArray> &lines, int at) const
+{
+    const int further = furtherLines(lines[at]);
+    return further >= 0 && further < lines.size() - at ? further + 1 : 0;
+}
+
+int Experiment::recordCount(const QList<QByteArray> &lines) const
+{
+    int count = 0;
+    for (int at = 0; at < lines.size(); ++count) {
+        const int length = recordLength(lines, at);
+        if (length == 0)
+            return -1;
+        at += length;
+    }
+    return count;
+}
+
 int Experiment::parseLogs(const QList<QByteArray> &lines)
 {
     setLogs({});
-    m_logs.reserve(lines.size());
-    for (const QByteArray &line : lines) {
+    for (int at = 0; at < lines.size();) {
         std::unique_ptr<Log> log(newLog());
-        if (log->parse(line) != 0)
+        const int length = recordLength(lines, at);
+        const auto parses = [&log](const QByteArray &line) { return log->parse(line) == 0; };
+        if (length == 0 || !std::all_of(lines.begin() + at, lines.begin() + at + length, parses))
             return 1;
         m_logs.append(log.release());
+        at += length;
     }
     return 0;
 }

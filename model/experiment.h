@@ -56,10 +56,10 @@ public:
     /// An empty record of the family, and empty results; the caller owns them.
     virtual Log *newLog() const = 0;
     virtual Results *newResults() const = 0;
-    /// How many records \a lines are, -1 when they are none; here each line is one.
-    virtual int recordCount(const QList<QByteArray> &lines) const { return lines.size(); }
-    /// Makes a log of each line, in order. 0, or 1 at the first line that is refused.
-    [[nodiscard]] virtual int parseLogs(const QList<QByteArray> &lines);
+    /// How many records \a lines are, or -1 when they do not come out even.
+    int recordCount(const QList<QByteArray> &lines) const;
+    /// Makes a log of each record, in order. 0, or 1 at the first line that is refused.
+    [[nodiscard]] int parseLogs(const QList<QByteArray> &lines);
     /// The experiment as it stands in files and on the pages.
     QJsonObject toJson() const;
     /// Writes what toJson() gives.
@@ -93,8 +93,11 @@ protected:
     virtual QJsonObject summary() const;
     /// Takes over a line of an instrument's list: here index, size and date.
     virtual void readListLine(const Pieces &line);
+    /// How many lines belong to a record behind its first, which is \a line; negative when it is refused.
+    virtual int furtherLines(const QByteArray &) const { return 0; }
 
 private:
+    int recordLength(const QList<QByteArray> &lines, int at) const;
     static const Fields<Experiment> &listFields();
 
     ListLine m_listLine;
