@@ -134,6 +134,10 @@ protected:
         bool readBack;    ///< what the instrument then tells of it must be the same
     };
     int sendSetting(const Order &order);
+    /// Sends the calibration that \a command takes: \a texts are date and certificate, in its order.
+    int sendCalibration(const QByteArray &command, const QStringList &texts);
+    /// Reads the calibration that \a command tells.
+    int queryCalibration(const QByteArray &command);
     /// Reads the service setting.
     int queryServiceConfig();
     void setServiceConfig(int value) { m_serviceConfig = value; }

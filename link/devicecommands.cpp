@@ -117,9 +117,13 @@ Results *Device::acquireResults(Experiment *)
 
 int Device::sndCalibration(const Calibration *calib)
 {
-    const QString command = QStringLiteral("AT+VFCTF=\"%1\",\"%2\"\r\n")
-                                .arg(AtDateTime::toAtString(calib->date), calib->certification.toUpper());
-    const int code = query(command.toLatin1(), "\r\n+VFCTF: ", Match::Whole).code;
+    return sendCalibration("VFCTF", {AtDateTime::toAtString(calib->date), calib->certification.toUpper()});
+}
+
+int Device::sendCalibration(const QByteArray &command, const QStringList &texts)
+{
+    const QByteArray quoted = '"' + texts.join(QLatin1String("\",\"")).toLatin1() + '"';
+    const int code = query("AT+" + command + '=' + quoted + "\r\n", "\r\n+" + command + ": ", Match::Whole).code;
     if (code == DeviceBusy)
         emit busy();
     return code == DeviceDisconnected ? DeviceError : code;
@@ -127,7 +131,12 @@ int Device::sndCalibration(const Calibration *calib)
 
 int Device::acquireCalibration()
 {
-    Reply reply = query("AT+VFCTF?\r\n", "\r\n+VFCTF: ");
+    return queryCalibration("VFCTF");
+}
+
+int Device::queryCalibration(const QByteArray &command)
+{
+    Reply reply = query("AT+" + command + "?\r\n", "\r\n+" + command + ": ");
     if (reply.code == DeviceSuccessful)
         return m_calibration.parseDeviceAnswer(QString::fromLatin1(reply.data.replace("\r\n", "")));
     return reply.code == DeviceDisconnected ? DeviceError : reply.code;

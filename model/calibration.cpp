@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "model/calibration.h"
 
-#include "model/atdatetime.h"
-
 const Fields<Calibration> &Calibration::fields()
 {
     static const Fields<Calibration> rows = {
@@ -34,11 +32,11 @@ int Calibration::parseJson(const QString &text)
 
 int Calibration::parseDeviceAnswer(const QString &answer)
 {
-    QString plain = answer;
-    const QStringList pieces = plain.remove(QLatin1Char('"')).split(QLatin1Char(','));
-    if (pieces.size() < 3)
+    const Pieces record = pieces(answer.toLatin1(), "\r\n");
+    if (record.size() < 3)
         return -1;
-    date = AtDateTime::fromAtString(pieces[0] + QLatin1Char(',') + pieces[1]);
-    certification = pieces[2];
+    const bool dateIsLast = !wireDate(record, 0).isValid() && wireDate(record, 1).isValid();
+    date = wireDate(record, dateIsLast ? 1 : 0);
+    certification = wireText(record[dateIsLast ? 0 : 2], Form::Plain);
     return 0;
 }

@@ -19,6 +19,7 @@ struct Calibration {
     void fromJson(const QJsonObject &object);
     /// Reads the page's form: a JSON object with "date" (ISO 8601) and "certification". 0, or -1 for another text.
     int parseJson(const QString &text);
-    /// Reads the answer to "AT+VFCTF?" without its framing: date, time and certificate. 0, or -1 below 3 fields.
+    /// Reads the answer to "AT+VFCTF?" without its framing: date, time and certificate, or the certificate first. 0, or -1
+    /// below 3 fields.
     int parseDeviceAnswer(const QString &answer);
 };

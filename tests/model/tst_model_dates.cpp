@@ -87,6 +87,7 @@ private slots:
         QTest::newRow("quoted apart") << "\"25/11/18\",\"10:00:00-12\",\"X\"" << 0 << "25/11/18,10:00:00-12" << "X";
         QTest::newRow("no certificate yet") << "\"25/11/18,10:00:00-12\",\"\"" << 0 << "25/11/18,10:00:00-12" << "";
         QTest::newRow("a field more") << "25/11/18,10:00:00-12,X,Y" << 0 << "25/11/18,10:00:00-12" << "X";
+        QTest::newRow("certificate first") << "\"CAL, 7\",\"25/11/18,10:00:00-12\"" << 0 << "25/11/18,10:00:00-12" << "CAL, 7";
         QTest::newRow("date unreadable") << "never,then,X" << 0 << "+00" << "X";
         QTest::newRow("a field less") << "\"25/11/18,10:00:00-12\"" << -1 << "20/01/02,03:04:05+00" << "OLD";
         QTest::newRow("empty") << "" << -1 << "20/01/02,03:04:05+00" << "OLD";
