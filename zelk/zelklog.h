@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: GPL-3.0-or-later
+#pragma once
+
+#include "model/log.h"
+
+/// The values of all quantities at one moment.
+class ZelkLog : public LogOf<ZelkLog, 6>
+{
+    Q_OBJECT
+
+public:
+    /// As sent, one for each quantity, in the order in which the results describe them.
+    QStringList physicalQuantitiesList() const { return m_physicalQuantitiesList; }
+
+    /// Reads one line of the record: first that of the date, then those of the values in their order. 0, or 1 for a line
+    /// that is refused.
+    [[nodiscard]] int parse(const QByteArray &line) override;
+
+    static const Fields<ZelkLog> &fields();
+
+private:
+    QStringList m_physicalQuantitiesList;
+    int m_lines = 0; ///< read so far
+};
