@@ -17,7 +17,7 @@ Instruments plugIn()
     Instruments instruments;
     quint32 seed = 0;
     for (const SimulatedFamily &family : families()) {
-        instruments.push_back(std::make_unique<SimulatedInstrument>(family.make(++seed, Expansions, workingDays())));
+        instruments.push_back(std::make_unique<SimulatedInstrument>(family.make(++seed, Expansions, family.memory())));
         instruments.back()->setDelay(AnswerDelay);
     }
     return instruments;

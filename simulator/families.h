@@ -24,10 +24,18 @@
 [[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedNembraPlus(
     quint32 seed = 1, const QVector<SimulatedExperiment> &memory = workingDays());
 
+/// What the logger has in its memory: a measurement with every sensor module, and each gas.
+[[nodiscard]] QVector<SimulatedExperiment> everySensor();
+
+/// The logger. Measurements without a type are of the modules in turn.
+[[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedZelk(
+    quint32 seed = 1, const QVector<SimulatedExperiment> &memory = everySensor());
+
 struct SimulatedFamily {
     const char *name; ///< for a command line: "thalvex2"
     using Memory = QVector<SimulatedExperiment>;
     std::unique_ptr<VirtualInstrument> (*make)(quint32 seed, int expansions, const Memory &memory);
+    Memory (*memory)() = workingDays; ///< to begin with
 };
 
 /// All families, in the order in which a demo shows them.

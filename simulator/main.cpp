@@ -44,18 +44,18 @@ int main(int argc, char *argv[])
     const QCommandLineOption interval = option("interval", "Seconds between their records.", "seconds", "1");
     const QCommandLineOption delay = option("delay", "Time before each answer.", "ms", "0");
     parser.addOptions({seed, expansions, sizes, interval, delay});
-    parser.addPositionalArgument(QStringLiteral("family"), QStringLiteral("thalvex2, thalvex4, nembra, nembraplus; without one, all."),
+    parser.addPositionalArgument(QStringLiteral("family"), QStringLiteral("thalvex2, thalvex4, nembra, nembraplus, zelk; without one, all."),
                                  QStringLiteral("[family...]"));
     parser.process(application);
 
     const int seconds = qMax(1, parser.value(interval).toInt());
-    const QVector<SimulatedExperiment> memory =
-        parser.isSet(sizes) ? memoryOfSizes(parser.value(sizes), seconds) : workingDays();
     std::vector<std::unique_ptr<SimulatedInstrument>> instruments;
     for (const SimulatedFamily &family : families()) {
         const QStringList wanted = parser.positionalArguments();
         if (!wanted.isEmpty() && !wanted.contains(QLatin1String(family.name)))
             continue;
+        const QVector<SimulatedExperiment> memory =
+            parser.isSet(sizes) ? memoryOfSizes(parser.value(sizes), seconds) : family.memory();
         auto instrument = std::make_unique<SimulatedInstrument>(
             family.make(parser.value(seed).toUInt(), parser.value(expansions).toInt(), memory));
         if (!instrument->isPlugged())

@@ -23,6 +23,7 @@ struct SimulatedExperiment {
     QByteArray octaves = "1/1";                       ///< of sound level meters: also "1/3"; any other is without bands
     bool manual = false;                              ///< of a sound level meter that can: each record as long as it is
     bool overloaded = false;                          ///< of a sound level meter that can tell
+    QByteArray subType = {};                          ///< of a type that has them
 
     /// Seconds from the start to a record (counted from 1), the pause included.
     [[nodiscard]] qint64 elapsed(int record) const;
