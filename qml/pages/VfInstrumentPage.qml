@@ -21,8 +21,10 @@ VfPage {
     property bool oneType: false
     /// Whether a file that could not be written is told as a failed download too.
     property bool tellsFailedSaving: false
-    /// A VfConfigurationWindow, made when it is first asked for.
+    /// A window with a signal cfgOK(cfg), as VfConfigurationWindow; made when it is first asked for.
     property Component configurationWindow
+    /// What is read for it, in order, each with the dialog for its failure: [{read, failed}].
+    property var readings: [{ read: core.acquireConfiguration, failed: dialogs.rcvCfgErrorDialog }]
 
     /// Positions in the list of what is to be downloaded.
     property var selectedIdx: []
@@ -38,26 +40,41 @@ VfPage {
 
     signal downloadError()
 
-    /// Reads the configuration; the window must be there to hear of it.
+    /// Reads what the configuration window shows; the window must be there to hear of it.
     function configure() {
+        var reading = null
         configurationLoader.active = true
-        root.wait(qsTr("Reading the configuration") + "...", core.acquireConfiguration, function (code) {
-            if (dialogs.answered(code, dialogs.rcvCfgErrorDialog))
+        root.wait(qsTr("Reading the configuration") + "...", function () {
+            var code = root.deviceSuccessful
+            for (var i = 0; i < readings.length && code === root.deviceSuccessful; ++i) {
+                reading = readings[i]
+                code = reading.read()
+            }
+            return code
+        }, function (code) {
+            if (dialogs.answered(code, reading.failed))
                 configuration.present()
         })
     }
 
-    /// Changes the configuration. What failed half way may have changed some of it: the window then shows what is so.
-    function sendConfiguration(cfg) {
-        root.wait(qsTr("Changing the configuration") + "...", function () {
-            var code = core.sndConfiguration(cfg)
+    /// Has job change something in the instrument, then done run. What failed half way may have changed some of it: the
+    /// window then shows what is so.
+    function send(what, job, done) {
+        root.wait(what, function () {
+            var code = job()
             if (code === root.deviceError || code === root.deviceBusy)
                 core.acquireConfiguration()
             return code
         }, function (code) {
-            if (dialogs.answered(code, dialogs.configErrorDialog))
-                dialogs.configSuccesfulDialog.open()
+            if (!dialogs.answered(code, dialogs.configErrorDialog))
+                return
+            dialogs.configSuccesfulDialog.open()
+            done()
         })
+    }
+
+    function sendConfiguration(cfg) {
+        send(qsTr("Changing the configuration") + "...", function () { return core.sndConfiguration(cfg) }, function () {})
     }
 
     /// Ticks what is not ticked and the other way round, or picks one for good.

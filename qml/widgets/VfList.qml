@@ -8,6 +8,10 @@ Item {
     id: list
 
     property alias headerlabel: header.text
+    /// What stands in the head instead of a label.
+    property alias head: head.data
+    /// What it is called, for those who cannot see it.
+    property string name: headerlabel
     property alias model: view.model
     property alias delegate: view.delegate
     property alias currentIndex: view.currentIndex
@@ -64,7 +68,7 @@ Item {
             Keys.onEnterPressed: if (currentItem) currentItem.click()
             Keys.onSpacePressed: if (currentItem) currentItem.click()
             Accessible.role: Accessible.List
-            Accessible.name: list.headerlabel
+            Accessible.name: list.name
         }
 
         VfText {

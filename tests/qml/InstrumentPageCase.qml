@@ -11,14 +11,19 @@ Item {
     property Component page
     property string product
     property string title
-    property string configurationTitle: title + " - Configuration"
     property var nameFilters
+    property int configurationWidth: 600
     property int configurationHeight: 340
+    /// What the configuration window is filled from, in order, each with the dialog for its failure.
+    property var readings: [["acquireConfiguration", "rcvCfgErrorDialog"]]
+    /// The part of the window that has the configuration, and its property for what is typed.
+    property var bodyOf: function (window) { return window }
+    property string typedInto: "sampleTime"
     /// A configuration as the page reads it, without its product.
     property var configuration
     /// Configurations and what is shown of them: {tag, configuration, ticked, texts}; disabled is a button that cannot be pressed.
     property var fillRows
-    /// What is sent: {tag, configuration, typed, pick, sent}; without sent the window shows the refusal.
+    /// What is sent: {tag, configuration, typed, pick, sent}; without sent the window shows the refusal, the row's or this.
     property var applyRows
     property string refusal
     /// Whether several experiments are ticked and accepted.
@@ -73,6 +78,8 @@ Item {
             press(made, "Configure")
             core.configuration = JSON.stringify(Object.assign({ productName: testWindow.product }, configuration))
             core.configurationUpdated()
+            var apply = Items.first(made.configuration.contentItem, "buttonLabel", "Apply") // tabs take a frame
+            tryVerify(function () { return apply.mapToItem(null, 0, 0).y > made.configuration.height / 2 })
             return made.configuration
         }
 
@@ -81,26 +88,28 @@ Item {
         function test_title() { verify(Items.texts(made).indexOf(testWindow.title) >= 0) }
 
         function test_configure_data() {
-            return [{ tag: "read", code: 0, dialog: "", shown: true },
-                    { tag: "error", code: -1, dialog: "rcvCfgErrorDialog" },
-                    { tag: "busy", code: -2, dialog: "deviceBusyDialog" },
-                    { tag: "disconnected", code: -3, dialog: "devDisconnectedDialog" },
-                    { tag: "unknown code", code: 7, dialog: "" }]
+            var rows = [{ tag: "read", codes: {}, dialog: "", calls: testWindow.readings.length, shown: true }]
+            testWindow.readings.forEach(function (reading, i) {
+                [[-1, reading[1]], [-2, "deviceBusyDialog"], [-3, "devDisconnectedDialog"], [7, ""]].forEach(function (code) {
+                    rows.push({ tag: reading[0] + " " + code[0], codes: { [reading[0]]: code[0] }, dialog: code[1], calls: i + 1 })
+                })
+            })
+            return rows
         }
 
         function test_configure(row) {
-            core.codes = { acquireConfiguration: row.code }
+            core.codes = row.codes
             press(made, "Configure")
-            compare(core.calls, [["acquireConfiguration"]])
+            compare(core.calls, testWindow.readings.slice(0, row.calls).map(function (reading) { return [reading[0]] }))
             compare(Dialogs.open(made.dialogs), row.dialog)
             compare(made.configuration.visible, row.shown === true)
         }
 
         function test_configurationWindow() {
             var window = configured(testWindow.configuration)
-            compare([window.width, window.height], [600, testWindow.configurationHeight])
+            compare([window.width, window.height], [testWindow.configurationWidth, testWindow.configurationHeight])
             compare(window.modality, Qt.ApplicationModal)
-            compare(window.title, testWindow.configurationTitle)
+            compare(window.title, testWindow.title + " - Configuration")
             press(window.contentItem, "Close")
             verify(!window.visible)
             press(made, "Configure")
@@ -121,17 +130,17 @@ Item {
 
         function test_apply_data() { return testWindow.applyRows }
         function test_apply(row) {
-            var window = configured(row.configuration || testWindow.configuration)
+            var window = configured(row.configuration || testWindow.configuration), body = testWindow.bodyOf(window)
             if (row.typed !== undefined)
-                window.sampleTime = row.typed
+                body[testWindow.typedInto] = row.typed
             if (row.pick)
                 mouseClick(Items.first(window.contentItem, "text", row.pick))
             core.calls = []
             press(window.contentItem, "Apply")
             compare(core.calls.map(function (call) { return [call[0], JSON.parse(call[1])] }),
                     row.sent ? [["sndConfiguration", row.sent]] : [])
-            compare(window.warning, row.sent ? "" : testWindow.refusal)
-            compare(Items.texts(window.contentItem).indexOf(window.warning) >= 0, !row.sent)
+            compare(body.warning, row.sent ? "" : row.refusal || testWindow.refusal)
+            verify(row.sent || Items.texts(window.contentItem).indexOf(body.warning) >= 0)
         }
 
         function test_applyAnswered_data() {
@@ -163,7 +172,7 @@ Item {
             press(window.contentItem, "Erase memory")
             compare(Dialogs.open(made.dialogs), "eraseDialog")
             compare(core.calls, [])
-            core.devName = "ARDEL 2"
+            core.devName = testWindow.product + " 9"
             core.eraseStarted()
             compare(Dialogs.open(made.dialogs), "eraseDialog")
             core.devName = testWindow.product
@@ -307,7 +316,7 @@ Item {
         function test_progress() {
             core.progressBarUpdated(40)
             compare(made.progress, 40)
-            core.devName = "ARDEL 2"
+            core.devName = "ZELK"
             core.progressBarUpdated(80)
             compare(made.progress, 40)
         }
