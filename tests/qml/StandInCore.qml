@@ -9,6 +9,7 @@ QtObject {
     property string configuration
     property var deviceList: []
     property var experimentList: []
+    property var virtualSchedulelist: []
     readonly property string version: "1.0"
     readonly property string builtDate: "Oct  9 2019 - 09:37:01"
     readonly property string builtYear: "2019"
@@ -24,6 +25,9 @@ QtObject {
     signal configurationUpdated()
     signal progressBarUpdated(double progress)
     signal eraseStarted()
+    signal scheduleListUpdate()
+    signal scheduleOk()
+    signal scheduleError(string message)
     signal deviceDisconnected()
     signal unsupportedDevice()
     signal findDeviceFinished()
@@ -38,6 +42,7 @@ QtObject {
         configuration = ""
         deviceList = []
         experimentList = []
+        virtualSchedulelist = []
         calls = []
         codes = {}
         meanwhile = null
@@ -56,6 +61,10 @@ QtObject {
     function refreshWorkingHours(hours) { called("refreshWorkingHours", hours) }
     function acquireConfiguration() { return called("acquireConfiguration") }
     function sndConfiguration(cfg) { return called("sndConfiguration", cfg) }
+    function acquireScheduleList() { return called("acquireScheduleList") }
+    function sndScheduleList(sch) { return called("sndScheduleList", sch) }
+    function addSchedule(schedule) { called("addSchedule", schedule) }
+    function removeSchedule(index) { called("removeSchedule", index) }
     function createExperiment(list) { return called("createExperiment", list) }
     function saveExperimentToFile(name) { return called("saveExperimentToFile", String(name)) }
     function sndCalibration(calib) { return called("sndCalibration", calib) }
