@@ -3,11 +3,11 @@
 // are measured in the same run. Each family is measured in a process of its own, with a time zone set and without.
 
 #include "app/core.h"
+#include "bench/days.h"
 #include "bench/rows.h"
 #include "link/factories.h"
 #include "model/experiment.h"
 #include "model/results.h"
-#include "simulator/families.h"
 
 #include <QCoreApplication>
 #include <QCryptographicHash>
@@ -20,55 +20,12 @@ namespace {
 
 constexpr int Day = 86400;
 
-struct Subject {
-    const char *name;
-    const char *product;
-    const char *ending;
-    std::unique_ptr<VirtualInstrument> (*make)(const QVector<SimulatedExperiment> &memory);
-};
-
-const Subject subjects[] = {
-    {"THALVEX 2", "THALVEX 2", ".tvx",
-     [](const QVector<SimulatedExperiment> &memory) { return simulatedThalvex2(1, memory); }},
-    {"THALVEX 4, 3 expansions", "THALVEX 4", ".tv4",
-     [](const QVector<SimulatedExperiment> &memory) { return simulatedThalvex4(1, 3, memory); }},
-    {"NEMBRA", "NEMBRA", ".nbr", [](const QVector<SimulatedExperiment> &memory) { return simulatedNembra(1, memory); }},
-    {"NEMBRA+", "NEMBRA+", ".nbp",
-     [](const QVector<SimulatedExperiment> &memory) { return simulatedNembraPlus(1, memory); }},
-};
-
 QByteArray contentOf(const QString &path)
 {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         qFatal("%s cannot be read", qPrintable(path));
     return file.readAll();
-}
-
-/// A file of \a records as a download would have left it.
-void makeFile(const Subject &subject, int records, const QString &path)
-{
-    SimulatedExperiment measured;
-    measured.size = records;
-    measured.interval = 1;
-    const std::unique_ptr<VirtualInstrument> instrument = subject.make({measured});
-    const QString product = QLatin1String(subject.product);
-    ExperimentChain experiment(FactoryExperiment::create(product));
-    QList<QByteArray> lines;
-    lines.reserve(records);
-    for (int record = 1; record <= records; ++record) {
-        const QByteArray number = QByteArray::number(record);
-        const QByteArray answer = instrument->answer("AT+VFRDXP=1," + number + ',' + number + "\r\n");
-        lines.append(answer.mid(2, answer.indexOf("\r\n", 2) - 2));
-    }
-    if (experiment->parseLogs(lines) != 0)
-        qFatal("a simulated record is refused");
-    experiment->setSize(records);
-    experiment->setResults(std::unique_ptr<Results>(FactoryResults::create(product)));
-    const std::unique_ptr<Device> device(FactoryDevice::create(product));
-    const std::unique_ptr<VfFile> file(FactoryFile::createForSave(product, path));
-    if (!file->save(VfFile::contentFor(device->toJson(), experiment.get())))
-        qFatal("%s cannot be written", qPrintable(path));
 }
 
 void measureTimes(const QString &name, const QString &path)
@@ -196,14 +153,18 @@ int main(int argc, char **argv)
     int failures = 0;
     heading();
     measureGrowth(folder);
-    for (const Subject &subject : subjects) {
-        const QString path = folder.filePath(QLatin1String("day") + QLatin1String(subject.ending));
-        makeFile(subject, Day, path);
+    for (const Subject &subject : subjects()) {
+        const QString path = fileOf(subject, {everySecond(Day)}, folder);
         for (const char *zone : {"America/Sao_Paulo", ""}) {
-            const QString name = QLatin1String(subject.name) + QLatin1String(*zone ? "" : ", TZ not set");
+            const QString name = subject.name() + QLatin1String(*zone ? "" : ", TZ not set");
             failures += runChild({QStringLiteral("times"), name, path}, zone);
         }
-        failures += runChild({QStringLiteral("memory"), QLatin1String(subject.name), path}, "America/Sao_Paulo");
+        failures += runChild({QStringLiteral("memory"), subject.name(), path}, "America/Sao_Paulo");
+        if (!subject.severalInFile)
+            continue;
+        const QString ten = fileOf(subject, QVector<SimulatedExperiment>(10, everySecond(Day / 10)), folder);
+        failures += runChild({QStringLiteral("times"), subject.name() + QLatin1String(", ten of 8,640"), ten},
+                             "America/Sao_Paulo");
     }
     return failures;
 }

@@ -5,8 +5,7 @@
 #include "app/core.h"
 #include "app/fonts.h"
 #include "app/suite.h"
-#include "model/vffile.h"
-#include "tests/report/measurements.h"
+#include "bench/days.h"
 
 #include <QApplication>
 #include <QCryptographicHash>
@@ -32,8 +31,6 @@ namespace {
 
 constexpr int day = 86400;
 constexpr int repetitions = 5;
-
-enum Tab { Table, Chart };
 
 double median(int times, const std::function<double()> &measure)
 {
@@ -71,20 +68,20 @@ void row(const char *what, double floor, double measured, const char *goal, cons
     std::fflush(stdout);
 }
 
-/// A file of a measurement of \a samples records, one per second.
-QString fileOf(const QTemporaryDir &dir, bool larger, int samples, int expansions)
-{
-    Measurements::Course course;
-    course.samples = samples;
-    course.interval = 1;
-    course.expansions = expansions;
-    const ExperimentChain chain = larger ? Measurements::thalvex4(course) : Measurements::thalvex2(course);
-    const QString product = larger ? QStringLiteral("THALVEX 4") : QStringLiteral("THALVEX 2");
-    VfFile file(dir.filePath(QString::number(samples) + (larger ? QStringLiteral(".tv4") : QStringLiteral(".tvx"))));
-    if (!file.save(VfFile::contentFor({{QStringLiteral("name"), product}}, chain.get())))
-        qFatal("no room for the file of a measurement");
-    return file.fileName();
-}
+/// The results page of a family: where it has its table and a chart.
+struct Page {
+    const char *family;
+    const char *view;       ///< what the page looks at, as its own script says it
+    int table, chart;       ///< their tabs
+    const char *curves;     ///< the chart's name in the view
+};
+
+const Page pages[] = {
+    {"thalvex2", "viewItem", 0, 1, "temperatureChart"},
+    {"thalvex4", "viewItem.currentView", 0, 1, "temperatureChart"},
+    {"nembra", "viewItem", 2, 0, "levelChart"},
+    {"nembraplus", "viewItem", 2, 0, "levelChart"},
+};
 
 /// The suite's window with one measurement open.
 class Bench
@@ -100,20 +97,20 @@ public:
         settle();
     }
 
-    QQuickItem *page(const char *product, QObject *below)
+    QQuickItem *page(const QString &product, QObject *below)
     {
         for (QQuickItem *item : below->findChildren<QQuickItem *>()) {
-            if (item->property("productName") == QLatin1String(product)
+            if (item->property("productName") == product
                 && item->metaObject()->indexOfSignal("showResults()") >= 0)
                 return item;
         }
-        qFatal("no page of %s", product);
+        qFatal("no page of %s", qPrintable(product));
     }
 
     /// What \a script gives with \a page as scope.
-    QVariant run(QObject *scope, const char *script)
+    QVariant run(QObject *scope, const QByteArray &script)
     {
-        QQmlExpression expression(qmlContext(scope), scope, QLatin1String(script));
+        QQmlExpression expression(qmlContext(scope), scope, QString::fromUtf8(script));
         const QVariant result = expression.evaluate();
         if (expression.hasError())
             qFatal("%s", qPrintable(expression.error().toString()));
@@ -207,72 +204,72 @@ void openAgain(Bench &bench, const QString &name, const char *what)
     row(what, first, median(3, open), "<= 1.2; median of the 9th to 11th");
 }
 
-void resultsPage(const QTemporaryDir &dir, bool larger)
+void resultsPage(const QTemporaryDir &dir, const Page &family, const Subject &subject)
 {
-    const char *product = larger ? "THALVEX 4" : "THALVEX 2";
-    const char *view = larger ? "viewItem.currentView" : "viewItem";
-    const auto script = [view](const char *call) -> QByteArray { return QByteArray(view) + '.' + call; };
-    const QString small = fileOf(dir, larger, 1000, 3);
-    const QString middle = fileOf(dir, larger, 10000, 3);
-    const QString large = fileOf(dir, larger, day, 3);
-    std::printf("%s%s\n", product, larger ? ", four units" : "");
+    const bool first = family.family == pages[0].family;
+    const auto script = [&](const QByteArray &call) -> QByteArray { return QByteArray(family.view) + '.' + call; };
+    const QByteArray tableTab = script("setTab(" + QByteArray::number(family.table) + ')');
+    const QByteArray chartTab = script("setTab(" + QByteArray::number(family.chart) + ')');
+    const QByteArray chart = script(family.curves);
+    const QString small = fileOf(subject, {everySecond(1000)}, dir);
+    const QString middle = fileOf(subject, {everySecond(10000)}, dir);
+    const QString large = fileOf(subject, {everySecond(day)}, dir);
+    std::printf("%s\n", qPrintable(subject.name()));
 
     Bench bench;
     bench.open(small); // makes the family's page
-    QQuickItem *page = bench.page(product, bench.root);
+    QQuickItem *page = bench.page(subject.product(), bench.root);
+    bench.run(page, tableTab);
+    bench.settle(800);
     openAgain(bench, large, "tenth opening of 86,400 records with the table");
     const auto parse = [&] { return bench.parse(); };
     const auto show = [&] { return bench.show(); };
     const auto [tableFloor, withTable] = inTurn(parse, show);
     row("results page with its table, 86,400 records", tableFloor, withTable, "<= 4");
-    if (!larger)
+    if (first)
         sisterPages(bench, page, "seven results pages against two, with the table");
     bench.open(small);
-    bench.run(page, script("setTab(1)").constData());
+    bench.run(page, chartTab);
     bench.settle(800);
     openAgain(bench, large, "tenth opening of 86,400 records with the chart");
     const auto [chartFloor, whole] = inTurn(parse, show);
     row("results page with its chart, 86,400 records", chartFloor, whole, "<= 3");
-    if (!larger)
+    if (first)
         sisterPages(bench, page, "seven results pages against two, with the chart");
 
     // Hovering: the pointer asks for the nearest record.
     const auto hover = [&] {
-        const QByteArray body = "(function () { var chart = " + QByteArray(view) + ".temperatureChart;"
+        const QByteArray body = "(function () { var chart = " + chart + ";"
             " for (var i = 0; i < 200; ++i) chart.pointAt(100 + 4 * i, 150) })()";
-        return median(repetitions, [&] { return taken([&] { bench.run(page, body.constData()); }) / 200; });
+        return median(repetitions, [&] { return taken([&] { bench.run(page, body); }) / 200; });
     };
     const double hoverLarge = hover();
-    const int columns = bench.run(page, script("temperatureChart.drawnColumns").constData()).toInt();
-    int most = 0;
-    for (int k = 0; k < 5; ++k) {
-        const QByteArray count = script("temperatureChart.drawn[") + QByteArray::number(k) + "].x.length";
-        most = std::max(most, bench.run(page, count.constData()).toInt());
-    }
-    row("chart, points of a curve (floor: columns of 2 pixels)", columns, most, "<= 2", "");
+    const int columns = bench.run(page, chart + ".drawnColumns").toInt();
+    const QByteArray most = "Math.max.apply(null, " + chart + ".drawn.map(function (curve) { return curve.x.length }))";
+    row("chart, points of a curve (floor: columns of 2 pixels)", columns, bench.run(page, most).toInt(), "<= 2", "");
 
-    if (!larger)
+    if (first)
         openFile(bench, large);
 
-    bench.run(page, script("setTab(0)").constData());
+    bench.run(page, tableTab);
     bench.settle(800);
     const auto setTable = [&] {
         const QByteArray fill = script("table.show(experiment.logList)");
-        return median(repetitions, [&] { return bench.untilFrame([&] { bench.run(page, fill.constData()); }); });
+        return median(repetitions, [&] { return bench.untilFrame([&] { bench.run(page, fill); }); });
     };
     const double tableLarge = setTable();
     const double bare = median(9, [&] { return bench.untilFrame([] {}); });
     const double scroll = median(15, [&] {
-        return bench.untilFrame([&] { bench.run(page, script("table.flickableItem.contentY += 60").constData()); });
+        return bench.untilFrame([&] { bench.run(page, script("table.flickableItem.contentY += 60")); });
     });
 
     bench.open(middle);
-    bench.run(page, script("setTab(1)").constData());
+    bench.run(page, chartTab);
     bench.settle(800);
     row("growth from 10,000 to 86,400 records, with the chart", median(repetitions, show), whole, "<= 9");
     bench.open(small);
     row("hover, one pointing, 86,400 records against 1,000", hover(), hoverLarge, "<= 3, and 2 ms");
-    bench.run(page, script("setTab(0)").constData());
+    bench.run(page, tableTab);
     bench.settle(800);
     row("table, setting it, 86,400 rows against 1,000", setTable(), tableLarge, "<= 1.5");
     row("table, scrolling by 60 pixels (floor: a bare frame)", bare, scroll, "<= 3");
@@ -288,7 +285,11 @@ int main(int argc, char **argv)
         std::printf("TZ is not set: every local time is looked up anew, and the ratios say little.\n");
     std::printf("%-58s | %12s | %12s | %6s | %s\n", "what", "floor", "measured", "ratio", "goal");
     const QTemporaryDir dir;
-    resultsPage(dir, false);
-    resultsPage(dir, true);
+    for (const Page &family : pages) {
+        for (const Subject &subject : subjects()) {
+            if (qstrcmp(subject.family.name, family.family) == 0)
+                resultsPage(dir, family, subject);
+        }
+    }
     return 0;
 }
