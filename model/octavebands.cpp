@@ -5,7 +5,6 @@
 
 #include <array>
 #include <cmath>
-#include <optional>
 
 namespace {
 
@@ -36,11 +35,11 @@ double twoDecimals(double value)
 
 } // namespace
 
-OctaveBands::Analysis OctaveBands::analysisOf(const QString &octaveAnalysis)
+OctaveBands::Analysis OctaveBands::analysisOf(const QString &octaveAnalysis, Analysis otherwise)
 {
     if (octaveAnalysis == QLatin1String("1/1"))
         return Analysis::Octave;
-    return octaveAnalysis == QLatin1String("1/3") ? Analysis::Third : Analysis::Unknown;
+    return octaveAnalysis == QLatin1String("1/3") ? Analysis::Third : otherwise;
 }
 
 double OctaveBands::correction(Weighting weighting, int index)
@@ -50,9 +49,11 @@ double OctaveBands::correction(Weighting weighting, int index)
     return (weighting == Weighting::A ? curveA : curveC)[std::size_t(index)];
 }
 
-QVector<double> OctaveBands::levels(const QVector<LeqPerOctave> &bands, Analysis analysis, Weighting weighting)
+QVector<double> OctaveBands::levels(const QVector<LeqPerOctave> &bands, Analysis analysis, Weighting weighting,
+                                    std::optional<int> otherStart)
 {
-    const std::optional<int> start = startIndex(bands.isEmpty() ? QString() : bands.first().frequency);
+    const std::optional<int> known = startIndex(bands.isEmpty() ? QString() : bands.first().frequency);
+    const std::optional<int> start = known ? known : otherStart;
     if (weighting != Weighting::Z && (!start || analysis == Analysis::Unknown))
         return {};
     const int step = analysis == Analysis::Octave ? 3 : 1;

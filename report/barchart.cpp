@@ -24,7 +24,21 @@ constexpr int AbovePlot = 24;
 constexpr int BelowPlot = 40;
 constexpr int BelowDensePlot = 62;
 
-constexpr double Furthest = 1e12; ///< where the axis of values ends, whatever a file says
+constexpr double Furthest = 1e12; ///< beyond it a value, whatever a file says, has no place: the drawing would break
+constexpr double Nearest = 0.01;  ///< how short it may be
+
+/// An even step that goes two to five times into \a range.
+double evenStep(double range)
+{
+    const double power = std::pow(10, std::floor(std::log10(range)));
+    return range < 2 * power ? power / 2 : range < 5 * power ? power : 2 * power;
+}
+
+/// Decimals of multiples of \a step.
+int decimals(double step)
+{
+    return std::max(0, int(std::ceil(-std::log10(step))));
+}
 
 } // namespace
 
@@ -33,7 +47,7 @@ void BarChart::setBars(const QStringList &categories, const QVector<double> &val
     m_categories = values.isEmpty() ? categories : QStringList();
     m_values.clear();
     for (int i = 0; i < values.size(); ++i) {
-        if (!std::isfinite(values[i])) // the bars behind it would move to the category before theirs
+        if (!(std::abs(values[i]) <= Furthest)) // the bars behind it would move to the category before theirs
             continue;
         m_categories.append(categories[i]);
         m_values.append(values[i]);
@@ -74,17 +88,15 @@ int BarChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal sc
     double lowest = 0;
     double highest = 0;
     for (const double value : m_values) {
-        lowest = std::min(lowest, std::max(value, -Furthest));
-        highest = std::max(highest, std::min(value, Furthest));
+        lowest = std::min(lowest, value);
+        highest = std::max(highest, value);
     }
-    const double range = highest - lowest;
-    double step = range > 100 ? 50 : 20;
-    while (range > 10 * step) // the axis would lay out every one of its labels
-        step *= 10;
-    values->setRange(step * std::floor(lowest / step), step * std::ceil(highest / step + 0.5));
+    const double end = highest + highest / 75 * 3 * m_font.pixelSize();
+    const double step = evenStep(std::max(end - lowest, Nearest));
+    values->setRange(step * std::floor(lowest / step), std::max(end, Nearest));
     values->setTickType(QValueAxis::TicksDynamic);
     values->setTickInterval(step);
-    values->setLabelFormat(QStringLiteral("%.0f"));
+    values->setLabelFormat(QStringLiteral("%.%1f").arg(decimals(step)));
     // With a plot in a place of its own the chart has none for a title.
     const QRectF plot(LeftOfPlot, AbovePlot, size.width() * scale - LeftOfPlot - RightOfPlot,
                       size.height() - AbovePlot - (m_dense ? BelowDensePlot : BelowPlot));

@@ -20,7 +20,8 @@ public:
     void setTitle(const QString &title) { m_title = title; }
     void setCategoryTitle(const QString &title) { m_categoryTitle = title; }
     void setValueTitle(const QString &title) { m_valueTitle = title; }
-    /// A value for each category, or none at all. One that is no number has no place in the chart.
+    /// A value for each category, or none at all. One that is no number, or absurdly large, has no place in the
+    /// chart.
     void setBars(const QStringList &categories, const QVector<double> &values, const QColor &color);
     /// Smaller letters and turned categories, for many bars.
     void setDense(bool dense) { m_dense = dense; }

@@ -2,11 +2,8 @@
 #include "soundlevel/soundlevelprinter.h"
 
 #include "model/experiment.h"
-#include "report/barchart.h"
 #include "report/chartscene.h"
-#include "report/dates.h"
 #include "report/texts.h"
-#include "report/timechart.h"
 #include "report/values.h"
 #include "report/vfheadedtable.h"
 #include "report/vfsubsuperscript.h"
@@ -17,24 +14,13 @@
 
 namespace {
 
-constexpr int ChartHeight = 150;
 constexpr int LongestName = 220;  // pixels of a name in the table of measuring points
 constexpr int LongestLevel = 12; // characters that find room in a column
-
-QString captionedText(const QString &caption, const QString &value)
-{
-    return caption + QLatin1String(": ") + value;
-}
 
 QString letter(OctaveBands::Weighting curve)
 {
     return curve == OctaveBands::Weighting::Z ? QStringLiteral("Z")
            : curve == OctaveBands::Weighting::C ? QStringLiteral("C") : QStringLiteral("A");
-}
-
-QColor colour(OctaveBands::Weighting curve)
-{
-    return curve == OctaveBands::Weighting::Z ? Qt::red : curve == OctaveBands::Weighting::C ? Qt::darkGreen : Qt::blue;
 }
 
 /// A head of a table with the unit behind it, which the head owns.
@@ -51,25 +37,18 @@ VfSubSuperScript *head(const QString &text)
     return new VfSubSuperScript(text, {}, {});
 }
 
+std::optional<double> levelOf(const Log &log)
+{
+    return numberIn(static_cast<const SoundLevelLog &>(log).level());
+}
+
 } // namespace
 
-SoundLevelPrinter::SoundLevelPrinter()
-{
-    m_reportTitle = tr("Noise Report");
-    m_footerText = QStringLiteral(" ");
-    setBodyFonts();
-}
+SoundLevelPrinter::SoundLevelPrinter() : NoisePrinter(tr("Noise Report")) {}
 
 void SoundLevelPrinter::setParameters(const QString &json)
 {
-    readParameters(json, familyParameters(), {
-        {"emplInfoEnable", &m_emplInfoEnable}, {"emplName", &m_emplName},
-        {"ckbChartLvl", &m_ckbChartLvl},       {"ckbLeqZ", &m_ckbLeqZ},
-        {"ckbLeqA", &m_ckbLeqA},               {"ckbLeqC", &m_ckbLeqC},
-        {"ckbPreChk", &m_ckbPreChk},           {"ckbPosChk", &m_ckbPosChk},
-        {"ckbCalLab", &m_ckbCalLab},           {"ckbCalAudLab", &m_ckbCalAudLab},
-        {"audCertified", &m_audCertified},     {"ckbCalField", &m_ckbCalField},
-    });
+    readParameters(json, familyParameters(), noiseParameters("ckbPreChk", "ckbPosChk"));
 }
 
 const SoundLevelResults &SoundLevelPrinter::resultsOf(const Experiment &experiment)
@@ -82,29 +61,10 @@ QString SoundLevelPrinter::levelText(const QString &value)
     return value == QLatin1String("OL") ? value : shortened(formatNumber(numberOf(value), 2, 2), LongestLevel);
 }
 
-QString SoundLevelPrinter::timeWeightingText(const QString &weighting)
-{
-    const std::pair<const char *, QString> known[] = {
-        {"Slow", tr("Slow")}, {"Fast", tr("Fast")}, {"Impulse", tr("Impulse")}};
-    for (const auto &[word, text] : known) {
-        if (weighting == QLatin1String(word))
-            return text;
-    }
-    return weighting;
-}
-
 QVector<OctaveBands::Weighting> SoundLevelPrinter::curves() const
 {
-    QVector<OctaveBands::Weighting> asked;
-    if (!octavesWanted())
-        return asked;
-    if (m_ckbLeqZ)
-        asked.append(OctaveBands::Weighting::Z);
-    if (m_ckbLeqC)
-        asked.append(OctaveBands::Weighting::C);
-    if (m_ckbLeqA)
-        asked.append(OctaveBands::Weighting::A);
-    return asked;
+    using OctaveBands::Weighting;
+    return octavesWanted() ? curvesIn({Weighting::Z, Weighting::C, Weighting::A}) : QVector<Weighting>();
 }
 
 bool SoundLevelPrinter::chartsWanted(const Experiment &experiment) const
@@ -154,13 +114,9 @@ void SoundLevelPrinter::drawCertificates()
 {
     if (!m_ckbCalLab && !m_ckbCalAudLab)
         return;
-    const QString &certificate = m_calibration.certification;
     wholeSection(tr("Laboratory calibration"), [&] {
-        if (m_ckbCalLab) {
-            drawLine(captionedText(tr("Sonometer"), certificate.isEmpty() ? tr("invalid")
-                                                                          : certificate + QLatin1Char(' ') +
-                                                                                ::dateText(m_calibration.date.date())));
-        }
+        if (m_ckbCalLab)
+            drawLine(captionedText(tr("Sonometer"), certificateText()));
         if (m_ckbCalAudLab)
             drawLine(captionedText(tr("Sound calibrator"), m_audCertified));
     });
@@ -215,24 +171,20 @@ void SoundLevelPrinter::drawConfiguration(const Experiment &experiment)
 
 void SoundLevelPrinter::drawFieldChecks(const Experiment &experiment)
 {
-    if (!m_ckbPreChk && !m_ckbPosChk)
+    if (!m_ckbPreCheck && !m_ckbPosCheck)
         return;
     const FieldChecks &checks = resultsOf(experiment).fieldChecks();
     const CheckWords words = checkWords();
     const auto line = [this](const QString &caption, const QString &value, const QDateTime &when) {
-        if (dashed(value) == absentText())
-            return drawLine(caption + QLatin1String(" [dB]: --- "));
-        const QDateTime local = when.toLocalTime();
-        const QString moment = ::dateText(local.date()) + QLatin1Char(' ') + local.toString(QStringLiteral("hh:mm"));
-        drawLine(caption + QLatin1String(" [dB]: ") + value.simplified() + QLatin1String(" (") + moment + QLatin1Char(')'));
+        drawLine(checkText(caption, value, when, dashed(value) != absentText()));
     };
     wholeSection(tr("Field ver. @ 1kHz"), [&] {
-        if (m_ckbPreChk)
+        if (m_ckbPreCheck)
             line(words.pre, checks.pre, checks.preDate);
-        if (m_ckbPosChk)
+        if (m_ckbPosCheck)
             line(words.pos, checks.pos, checks.posDate);
         const std::optional<double> deviation = checks.deviation();
-        if (m_ckbPreChk && m_ckbPosChk && (deviation || words.unknownDeviation)) {
+        if (m_ckbPreCheck && m_ckbPosCheck && (deviation || words.unknownDeviation)) {
             drawLine(tr("Desviate") + QLatin1String(" [dB]: ") +
                      (deviation ? formatNumber(*deviation, 2, 2) : QStringLiteral("--- ")));
         }
@@ -265,52 +217,24 @@ void SoundLevelPrinter::drawCharts(const Experiment &experiment)
 {
     const SoundLevelResults &results = resultsOf(experiment);
     section(tr("Charts"), [&] {
+        const QString symbol = QStringLiteral("L<sub>%1eq</sub>").arg(ChartScene::plain(results.freqWeighting().left(8)));
         if (m_ckbChartLvl)
-            drawLevelChart(experiment);
+            drawLevelChart(experiment, {symbol + QLatin1String(" x ") + tr("Time"), symbol + QLatin1String(" [dB]"), levelOf});
         if (results.leqList().isEmpty())
             return;
         const auto asked = curves();
         for (const OctaveBands::Weighting curve : asked)
-            drawOctaveChart(results, curve);
+            drawOctaves(results, curve);
     });
 }
 
-void SoundLevelPrinter::drawLevelChart(const Experiment &experiment)
-{
-    const QString symbol =
-        QStringLiteral("L<sub>%1eq</sub>").arg(ChartScene::plain(resultsOf(experiment).freqWeighting().left(8)));
-    TimeChart chart(m_chartFont);
-    chart.setLook({TimeChart::Curves::Lines, TimeChart::Beyond::Tenth, false});
-    chart.setTitle(symbol + QLatin1String(" x ") + tr("Time"));
-    chart.setTimeTitle(tr("Time", "X axis label"));
-    chart.setValueTitle(symbol + QLatin1String(" [dB]"));
-    QVector<QPointF> points;
-    const QList<Log *> logs = experiment.logs();
-    points.reserve(logs.size());
-    for (const Log *log : logs) {
-        if (const auto level = numberIn(static_cast<const SoundLevelLog *>(log)->level()))
-            points.append({double(log->registerDate().toMSecsSinceEpoch()), *level});
-    }
-    chart.addCurve(QString(), points);
-    placeChart(chart, ChartHeight);
-}
-
-void SoundLevelPrinter::drawOctaveChart(const SoundLevelResults &results, OctaveBands::Weighting curve)
+void SoundLevelPrinter::drawOctaves(const SoundLevelResults &results, OctaveBands::Weighting curve)
 {
     const auto analysis = OctaveBands::analysisOf(results.octaveAnalysis());
-    const bool thirds = analysis == OctaveBands::Analysis::Third;
-    const QString symbol = QStringLiteral("L<sub>%1eq</sub>").arg(letter(curve));
     const QVector<LeqPerOctave> bands = results.leqList().mid(0, OctaveBands::Thirds); // a file may tell of more
-    QStringList labels;
-    for (const LeqPerOctave &band : bands)
-        labels.append(OctaveBands::label(band.frequency));
-    BarChart chart(m_chartFont);
-    chart.setTitle(symbol + QLatin1String(" x ") + (thirds ? tr("1/3 Octave") : tr("Octave")));
-    chart.setCategoryTitle(tr("Frequency [Hz]"));
-    chart.setValueTitle(symbol + QLatin1String(" [dB]"));
-    chart.setBars(labels, OctaveBands::levels(bands, analysis, curve), colour(curve));
-    chart.setDense(thirds);
-    placeChart(chart, ChartHeight);
+    drawOctaveChart({bands, OctaveBands::levels(bands, analysis, curve), curve,
+                     QStringLiteral("L<sub>%1eq</sub>").arg(letter(curve)), tr("Frequency [Hz]"),
+                     analysis == OctaveBands::Analysis::Third});
 }
 
 // ---------------------------------------------------------------- log table

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "model/octavebands.h"
-#include "report/partedprinter.h"
+#include "report/noiseprinter.h"
 
 class Log;
 class SoundLevelResults;
@@ -10,7 +9,7 @@ class VfSubSuperScript;
 
 /// What the reports of the sound level meters share: a front page with all measuring points, and for each experiment its
 /// configuration, field checks, figures, charts and records. A family says which figures it has.
-class SoundLevelPrinter : public PartedPrinter
+class SoundLevelPrinter : public NoisePrinter
 {
     Q_OBJECT
 
@@ -69,13 +68,6 @@ protected:
     static QString levelText(const QString &value);
     /// A column for each of \a columns, in which its levels stand one below the other.
     void drawLevels(const QVector<Levels> &columns);
-    /// "Slow", "Fast" or "Impulse" in the user's language.
-    static QString timeWeightingText(const QString &weighting);
-
-    bool m_ckbChartLvl = false;
-    bool m_ckbLeqZ = false;
-    bool m_ckbLeqA = false;
-    bool m_ckbLeqC = false;
 
 private:
     bool chartsWanted(const Experiment &experiment) const;
@@ -84,15 +76,5 @@ private:
     void drawConfiguration(const Experiment &experiment);
     void drawFieldChecks(const Experiment &experiment);
     void drawCharts(const Experiment &experiment);
-    void drawLevelChart(const Experiment &experiment);
-    void drawOctaveChart(const SoundLevelResults &results, OctaveBands::Weighting curve);
-
-    bool m_emplInfoEnable = false;
-    QString m_emplName;
-    bool m_ckbPreChk = false;
-    bool m_ckbPosChk = false;
-    bool m_ckbCalLab = false;
-    bool m_ckbCalAudLab = false;
-    bool m_ckbCalField = false; ///< read, and nothing depends on it
-    QString m_audCertified;
+    void drawOctaves(const SoundLevelResults &results, OctaveBands::Weighting curve);
 };
