@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "tests/report/measurements.h"
 
+#include "ardel/ardel2experiment.h"
 #include "nembra/nembraexperiment.h"
 #include "nembraplus/nembraplusexperiment.h"
 #include "thalvex2/thalvex2experiment.h"
@@ -111,14 +112,14 @@ ExperimentChain Measurements::thalvex4(const Course &course)
 
 namespace {
 
-QByteArray band(int number, int count, double frequency)
+QByteArray band(const QByteArray &header, int number, int count, double frequency)
 {
-    return "3,1," + QByteArray::number(count) + ',' + QByteArray::number(number) + ',' +
+    return header + ",1," + QByteArray::number(count) + ',' + QByteArray::number(number) + ',' +
            QByteArray::number(frequency, 'f', 2) + ',' + QByteArray::number(60 + 20 * std::sin(number / 3.0), 'f', 2);
 }
 
-/// Octaves from 31.5 Hz on, or thirds from 50 Hz on.
-QByteArray bands(const QByteArray &octaves)
+/// Octaves from \a lowest on, or thirds from 50 Hz on.
+QByteArray bands(const QByteArray &header, const QByteArray &octaves, double lowest)
 {
     QVector<double> frequencies;
     if (octaves == "1/1")
@@ -126,20 +127,27 @@ QByteArray bands(const QByteArray &octaves)
     else if (octaves == "1/3")
         frequencies = {50,   63,   80,   100,  125,  160,  200,  250,  315,  400,  500,   630,   800,  1000,
                        1250, 1600, 2000, 2500, 3150, 4000, 5000, 6300, 8000, 10000, 12500, 16000};
+    while (!frequencies.isEmpty() && frequencies.first() < lowest)
+        frequencies.removeFirst();
     QByteArrayList lines;
     for (int i = 0; i < frequencies.size(); ++i)
-        lines.append(band(i, frequencies.size(), frequencies[i]));
+        lines.append(band(header, i, frequencies.size(), frequencies[i]));
     return lines.join('\r');
+}
+
+/// The level of a record; there is none in the middle.
+QByteArray level(const Measurements::Course &course, int i)
+{
+    if (!course.text.isEmpty())
+        return course.text;
+    return i == course.samples / 2 ? QByteArray() : QByteArray::number(80 + 8 * std::sin(i / 7.0), 'f', 1);
 }
 
 template <class E, class L, class R> ExperimentChain sound(const Measurements::Noise &noise, const QByteArray &levels)
 {
     const Measurements::Course &course = noise.course;
     ExperimentChain experiment = measurement<E, L>(course, [&](int i) -> QByteArray {
-        const double level = 80 + 8 * std::sin(i / 7.0);
-        QByteArray text = i == course.samples / 2 ? QByteArray() : QByteArray::number(level, 'f', 1);
-        if (!course.text.isEmpty())
-            text = course.text;
+        QByteArray text = level(course, i);
         if (noise.manual)
             text += ',' + QByteArray::number(i % 9);
         return ',' + text;
@@ -150,7 +158,7 @@ template <class E, class L, class R> ExperimentChain sound(const Measurements::N
                                        QByteArray::number(course.interval) + ",Slow,A," + noise.octaves + ",," +
                                        (noise.overload ? "1" : "0") + (noise.manual ? ",MANUAL" : "")));
     expectParsed(results->parseHeader2(levels));
-    const QByteArray spectrum = bands(noise.octaves);
+    const QByteArray spectrum = bands("3", noise.octaves, 31.5);
     if (!spectrum.isEmpty())
         expectParsed(results->parseHeader3(spectrum));
     const QByteArray when = ',' + wireText(course.start) + ',' + wireText(course.start);
@@ -178,4 +186,27 @@ ExperimentChain Measurements::nembraPlus(const Noise &noise)
                      number(40.06) + number(63.07) + when + number(40.08) + number(63.09) + when);
     }
     return sound<NembraPlusExperiment, NembraPlusLog, NembraPlusResults>(noise, lines.join('\r'));
+}
+
+ExperimentChain Measurements::ardel2(const Noise &noise)
+{
+    const Course &course = noise.course;
+    ExperimentChain experiment = measurement<Ardel2Experiment, Ardel2Log>(course, [&](int i) -> QByteArray {
+        return ",81.1,82.2,83.3," + level(course, i) + ",0";
+    });
+    auto results = std::make_unique<Ardel2Results>();
+    expectParsed(results->parseDosimeterConfig("1,NHO-01,80,85,3,Slow,A\r2,NR-15,80,85,5,Fast,A\r3," + noise.name +
+                                               ",70,90,4,Slow,C"));
+    expectParsed(results->parseIdentification("1,1," + noise.name + ',' + QByteArray::number(course.interval) +
+                                              ",70,90,4,Impulse,C," + noise.octaves));
+    expectParsed(results->parseDosimeter1Results("2,1,121.25,85.81,84.16"));
+    expectParsed(results->parseDosimeter2Results("3,1,0.00,,"));
+    expectParsed(results->parseDosimeterUserResults("4,1,43.5,82.9,"));
+    expectParsed(results->parseStatistics("5,1,90.1,80.5,70.9,3," + QByteArray::number(course.samples * course.interval) +
+                                          ',' + span(course) + ",90"));
+    expectParsed(results->parseOctaveBands(bands("6", noise.octaves, 63)));
+    const QByteArray when = ',' + wireText(course.start) + ',' + wireText(course.start);
+    expectParsed(results->parseFieldChecks("7,1," + noise.checks + when));
+    experiment->setResults(std::move(results));
+    return experiment;
 }

@@ -24,7 +24,7 @@ ExperimentChain thalvex2(const Course &course);
 /// The same at 1 + expansions places, each half a degree warmer than the one before.
 ExperimentChain thalvex4(const Course &course);
 
-/// What a sound level meter was set to, and what came of it.
+/// What a noise instrument was set to, and what came of it.
 struct Noise {
     Course course;
     QByteArray name = "Press";
@@ -37,5 +37,6 @@ struct Noise {
 /// Levels around 80 dB, and one that is missing in the middle.
 ExperimentChain nembra(const Noise &noise);
 ExperimentChain nembraPlus(const Noise &noise);
+ExperimentChain ardel2(const Noise &noise);
 
 } // namespace Measurements
