@@ -18,6 +18,8 @@ FocusScope {
     property string valueSuffix
     /// How a curve is drawn: a LineSeries or a ScatterSeries.
     property Component curve: Component { LineSeries {} }
+    /// What marks the points of a curve, a ScatterSeries, or null.
+    property Component marks: null
 
     /// The moments of the records in ms, and for each curve its name and the records' numbers.
     property var times: []
@@ -44,6 +46,9 @@ FocusScope {
     readonly property font textFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize })
     readonly property font headFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize, bold: true })
     readonly property alias seriesCount: chart.count
+    /// The range of the values' axis.
+    readonly property alias low: valueAxis.min
+    readonly property alias high: valueAxis.max
 
     /// The numbers of an experiment's records for some roles; reading(record) is the part of a record that has them.
     function read(experiment, roles, reading) {
@@ -77,13 +82,17 @@ FocusScope {
         drawnColumns = columnCount
         drawn = values.map(function (curve) { return TimeChart.columns(times, curve, drawnColumns, from, to, sorted) })
         drawn.forEach(function (points, k) {
-            TimeChart.pieces(points).forEach(function (piece) { drawPiece(points, piece, curveColors[k % curveColors.length]) })
+            [curve, marks].filter(Boolean).forEach(function (kind) {
+                TimeChart.pieces(points).forEach(function (piece) {
+                    drawPiece(kind, points, piece, curveColors[k % curveColors.length])
+                })
+            })
         })
     }
 
-    function drawPiece(points, piece, color) {
+    function drawPiece(kind, points, piece, color) {
         // A series on a chart redraws with every point: fill it first.
-        var series = timeChart.curve.createObject(workshop, { color: color })
+        var series = kind.createObject(workshop, { color: color })
         for (var i = piece.begin; i < piece.end; ++i)
             series.append(points.x[i], points.y[i])
         if (series.count === 1 && series.capStyle !== undefined) {      // a line of one point would not be seen

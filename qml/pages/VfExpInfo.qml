@@ -11,6 +11,8 @@ VfFrame {
     readonly property var results: experiment.results || {}
     /// [{label, value}]: a value that is not there is told so.
     property var lines: []
+    /// [{title, lines}] below them.
+    property var groups: []
     /// What the page has beside its buttons.
     property real room: 900
 
@@ -30,11 +32,15 @@ VfFrame {
         rowSpacing: 6
 
         Repeater {
-            model: info.lines
+            // A title has a row of the grid for itself, and what stands before it the rest of another.
+            model: info.groups.reduce(function (all, group) {
+                var rest = new Array((grid.columns - all.length % grid.columns) % grid.columns).fill({})
+                return all.concat(rest, { title: group.title }, new Array(grid.columns - 1).fill({}), group.lines)
+            }, info.lines)
             VfInfoElement {
-                label: modelData.label + ":"
+                label: modelData.label ? modelData.label + ":" : modelData.title || ""
                 maximumWidth: (info.room - 2 * info.padding) / grid.columns - grid.columnSpacing
-                value: Texts.text(modelData.value)
+                value: modelData.label ? Texts.text(modelData.value) : ""
             }
         }
     }

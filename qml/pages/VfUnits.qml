@@ -10,7 +10,7 @@ Item {
     id: units
 
     property int count: 0
-    /// What is made for each unit; it has functions setTab(tab) and forget(), and a property currentTab.
+    /// What is made for each unit; it has a function forget() and, if it has tabs, setTab(tab) and currentTab.
     property Component view
     property string listName
     property var nameOf: function (unit) { return String(unit + 1) }
@@ -53,7 +53,8 @@ Item {
         var last = currentView, next = made[unit]
         if (last && last !== next) {
             last.visible = false
-            next.setTab(last.currentTab)
+            if (next.setTab)
+                next.setTab(last.currentTab)
         }
         next.visible = true
         currentView = next

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // The keys of a report, named once by its window: the boxes, what they start with and the JSON for the printer follow.
-// A row is {key, kind, when}: a "switch" or a "text", sent always or only while the switch named by when is on.
+// A row is {key, kind, when}: a "switch" or a "text", sent always or only while the switch named by when is on; or a "list"
+// of the numbers of those of its members that are on, which is empty while the switch named by when is off.
 .pragma library
 
 function on(key, when) { return { key: key, kind: "switch", when: when } }
@@ -13,9 +14,14 @@ function ofField(field) {
 }
 
 // The keys of a group of boxes {title, key, boxes: [{key, label, text}]}: its head, and the boxes that hang on it. A text
-// beside a box is sent while that is on. A group without a head key has boxes that are always sent.
+// beside a box is sent while that is on. A group without a head key has boxes that are always sent. A group {list} with
+// the key of a list has boxes {key, label, number}.
 function ofGroup(group) {
     var head = group.key ? [on(group.key)] : []
+    if (group.list) {
+        var members = group.boxes.map(function (box) { return { key: box.key, kind: "member", number: box.number } })
+        return head.concat(members, { key: group.list, kind: "list", when: group.key, members: members })
+    }
     return head.concat(joined(group.boxes, function (box) {
         return [on(box.key, group.key)].concat(box.text ? text(box.text, box.key) : [])
     }))
@@ -29,7 +35,7 @@ function joined(parts, rowsOf) {
 function allOn(rows, values, withheld) {
     var next = {}
     rows.forEach(function (row) {
-        next[row.key] = row.kind === "switch" ? withheld.indexOf(row.key) < 0 : values[row.key] || ""
+        next[row.key] = row.kind === "text" ? values[row.key] || "" : withheld.indexOf(row.key) < 0
     })
     return next
 }
@@ -47,7 +53,10 @@ function changed(values, key, value) {
 function parameters(rows, values) {
     var cfg = {}
     rows.forEach(function (row) {
-        if (!row.when || values[row.when])
+        if (row.kind === "list")
+            cfg[row.key] = row.members.filter(function (member) { return values[row.when] && values[member.key] })
+                .map(function (member) { return member.number }).sort(function (a, b) { return a - b })
+        else if (row.kind !== "member" && (!row.when || values[row.when]))
             cfg[row.key] = row.kind === "switch" ? values[row.key] === true : values[row.key] || ""
     })
     return cfg

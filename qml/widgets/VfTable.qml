@@ -10,13 +10,14 @@ C1.TableView {
     id: table
 
     property var rows: []
-    /// The text of a cell; a page replaces it. The titles of the columns are markup.
-    property var cellText: function (row, role) { return Texts.text(row[role]) }
+    /// The text of the cell in a column, told by its role and its place; a page replaces it. The titles of the columns are
+    /// markup.
+    property var cellText: function (row, role, place) { return Texts.text(row[role]) }
     /// The width of the columns, without the bar beside them.
     readonly property real columnsWidth: {
         var sum = 0
         for (var i = 0; i < columnCount; ++i)
-            sum += getColumn(i).width
+            sum += getColumn(i).visible ? getColumn(i).width : 0
         return sum
     }
 
@@ -41,7 +42,8 @@ C1.TableView {
     function rowText(place) {
         var row = rowAt(place), parts = []
         for (var i = 0; row !== undefined && i < columnCount; ++i)
-            parts.push(Texts.plain(getColumn(i).title) + " " + cellText(row, getColumn(i).role))
+            if (getColumn(i).visible)
+                parts.push(Texts.plain(getColumn(i).title) + " " + cellText(row, getColumn(i).role, i))
         return parts.join(", ")
     }
 
@@ -90,7 +92,7 @@ C1.TableView {
             elide: Text.ElideRight
             font { family: fontSans.name; pixelSize: Theme.smallSize }
             horizontalAlignment: styleData.textAlignment
-            text: parent.row === undefined ? "" : table.cellText(parent.row, styleData.role)
+            text: parent.row === undefined ? "" : table.cellText(parent.row, styleData.role, styleData.column)
             textFormat: Text.PlainText
             verticalAlignment: Text.AlignVCenter
             wrapMode: Text.Wrap

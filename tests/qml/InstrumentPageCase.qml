@@ -11,6 +11,7 @@ Item {
     property Component page
     property string product
     property string title
+    property string configurationTitle: title + " - Configuration"
     property var nameFilters
     property int configurationWidth: 600
     property int configurationHeight: 340
@@ -109,7 +110,7 @@ Item {
             var window = configured(testWindow.configuration)
             compare([window.width, window.height], [testWindow.configurationWidth, testWindow.configurationHeight])
             compare(window.modality, Qt.ApplicationModal)
-            compare(window.title, testWindow.title + " - Configuration")
+            compare(window.title, testWindow.configurationTitle)
             press(window.contentItem, "Close")
             verify(!window.visible)
             press(made, "Configure")
@@ -316,7 +317,7 @@ Item {
         function test_progress() {
             core.progressBarUpdated(40)
             compare(made.progress, 40)
-            core.devName = "ZELK"
+            core.devName = "ARDEL 2"
             core.progressBarUpdated(80)
             compare(made.progress, 40)
         }

@@ -26,7 +26,8 @@ Item {
     property var reportTexts: ["cmpnyName", "siteName", "ownCompany", "collectorName", "repName", "repIdReg"]
     /// Further texts of a report.
     property var reportRest: ({})
-    /// The visible boxes of the report window in order: {key, gone: the keys that go when it is off}.
+    /// The visible boxes of the report window in order: {key, gone: the keys that go when it is off, changed: other values,
+    /// unsent: whether its own key is never sent}.
     property var boxes: []
 
     width: 1260
@@ -40,14 +41,14 @@ Item {
 
         function test_whoseExperiment_data() {
             var own = JSON.stringify(testWindow.experiment())
-            var foreign = own.replace(testWindow.product, "ZELK")
-            var quoted = '{"a": "\\"deviceName\\": \\"' + testWindow.product + '\\"", "deviceName": "ZELK", "logList": []}'
+            var foreign = own.replace(testWindow.product, "OTHER")
+            var quoted = '{"a": "\\"deviceName\\": \\"' + testWindow.product + '\\"", "deviceName": "OTHER", "logList": []}'
             var lengthy = "\"date\":\"" + new Array(400).join("x") + "\","
             return [
                 { tag: "own", text: own, shown: 1 },
                 { tag: "indented", text: JSON.stringify(testWindow.experiment(), null, 4), shown: 1 },
                 { tag: "own, with a long text in front", text: own.replace("{", "{" + lengthy), shown: 1 },
-                { tag: "own, with a part in front", text: own.replace("{", '{"a":{"deviceName":"ZELK"},'), shown: 1 },
+                { tag: "own, with a part in front", text: own.replace("{", '{"a":{"deviceName":"OTHER"},'), shown: 1 },
                 { tag: "foreign", text: foreign, shown: 0 },
                 { tag: "foreign, with a long text in front", text: foreign.replace("{", "{" + lengthy), shown: 0 },
                 { tag: "foreign, with the product in a text", text: quoted, shown: 0 },
@@ -63,8 +64,8 @@ Item {
         }
 
         function test_sessionOfAnother_data() {
-            return [{ tag: "with an experiment of its own", device: "ZELK", text: "ZELK", shown: 0 },
-                    { tag: "with one of this page's", device: "ZELK", text: testWindow.product, shown: 1 }]
+            return [{ tag: "with an experiment of its own", device: "OTHER", text: "OTHER", shown: 0 },
+                    { tag: "with one of this page's", device: "OTHER", text: testWindow.product, shown: 1 }]
         }
         function test_sessionOfAnother(row) {
             core.devName = row.device
@@ -83,7 +84,7 @@ Item {
         function test_dataBlock() {
             show()
             compare(Items.texts(made.infoItem), testWindow.infoTexts)
-            show(-3, function (experiment) { experiment.date = ""; delete experiment.results.pauseTime })
+            show(-3, function (experiment) { experiment.date = experiment.results.startTime = ""; delete experiment.results.pauseTime })
             var texts = Items.texts(made.infoItem)
             compare([texts[texts.indexOf("Date:") + 1], texts[texts.indexOf("Pause time:") + 1]], ["---", "---"])
         }
@@ -217,7 +218,7 @@ Item {
             pickFile()
             Items.all(window.contentItem, function (item) { return item.labelWidth !== undefined })
                 .forEach(function (field, i) { everything[testWindow.reportTexts[i]] = field.text = "text " + i })
-            testWindow.boxes.forEach(function (box) { everything[box.key] = true })
+            testWindow.boxes.filter(function (box) { return !box.unsent }).forEach(function (box) { everything[box.key] = true })
             Object.assign(everything, testWindow.reportRest, { logoFile: "", obsText: "", fileName: "/tmp/a b/100% n#1.pdf" })
             compare(sorted(submitted()), sorted(everything))
             verify(Items.texts(window.contentItem).indexOf("File name shall not be empty") < 0)
@@ -246,7 +247,8 @@ Item {
         }
 
         function test_reportSwitch_data() {
-            return testWindow.boxes.map(function (box, i) { return { tag: box.key, place: i, gone: box.gone || [] } })
+            return testWindow.boxes.map(function (box, i) { return { tag: box.key, place: i, gone: box.gone || [],
+                                                           unsent: box.unsent, changed: box.changed || {} } })
         }
         function test_reportSwitch(row) {
             report()
@@ -255,8 +257,10 @@ Item {
             compare(reportBoxes().length, testWindow.boxes.length)
             mouseClick(reportBoxes()[row.place], 8, 12)
             var cfg = submitted()
-            compare(cfg[row.tag], false)
-            everything[row.tag] = false
+            compare(cfg[row.tag], row.unsent ? undefined : false)
+            if (!row.unsent)
+                everything[row.tag] = false
+            Object.assign(everything, row.changed)
             row.gone.forEach(function (key) {
                 verify(key in everything, key)
                 delete everything[key]
