@@ -33,17 +33,10 @@ VfConfigurationWindow {
         VfRadioGroup { id: unity; name: qsTr("Unity"); choices: ["°C", "°F"] }
     }
 
-    VfFrame {
+    VfSampleTime {
+        id: sampleTime
+
         width: (parent.width - parent.spacing) / 2
-        height: 130
         label: qsTr("Sample time") + qsTr(" (mm:ss)*")
-
-        VfClockField {
-            id: sampleTime
-
-            form: "mm:ss"
-            description: qsTr("Sample time")
-            refusal: qsTr("The sample time field shall have mm:ss format")
-        }
     }
 }

@@ -11,8 +11,7 @@ VfResultsPage {
     productName: "NEMBRA"
     info: SoundLevelExpInfo {
         weightings: [
-            { label: qsTr("Time weighting"), value: ({ Slow: qsTr("Slow (S)"), Fast: qsTr("Fast (F)"),
-                                                       Impulse: qsTr("Impulse (I)") })[results.timeWeighting] },
+            { label: qsTr("Time weighting"), value: timeWeightings[results.timeWeighting] },
             { label: qsTr("Frequency weighting"), value: results.freqWeighting }
         ]
     }

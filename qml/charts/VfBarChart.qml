@@ -13,9 +13,12 @@ FocusScope {
     property alias valueTitle: valueAxis.titleText
     property alias categoryTitle: categoryAxis.titleText
     property string valueSuffix
+    property string categorySuffix: "Hz"
     property color barColor: "#1db0da"
     /// The categories stand upright, in smaller letters.
     property bool dense: false
+    /// Whether the values are marked in whole tens, as levels are; else at nice numbers.
+    property bool tensOnly: true
     readonly property int pointSize: dense ? 10 : 12
 
     property var labels: []
@@ -25,6 +28,14 @@ FocusScope {
     readonly property rect plot: chart.plotArea
     readonly property real slot: plot.width / Math.max(1, values.length)
 
+    /// Marks at round values: each ten, or as few tens as are no crowd.
+    function mark() {
+        var tens = Math.round(valueAxis.max / 10), step = 1
+        while (step < 10 && (tens % step > 0 || tens / step > 14))
+            ++step
+        valueAxis.tickCount = tens % step > 0 || tens / step > 14 ? 2 : tens / step + 1
+    }
+
     /// A value that is NaN has no bar; no bar ends above maximum.
     function show(categories, numbers, maximum) {
         forget()
@@ -32,11 +43,10 @@ FocusScope {
         labels = categories
         values = numbers
         valueAxis.max = maximum
-        // Marks at round values: each ten, or as few tens as are no crowd.
-        var tens = Math.round(maximum / 10), step = 1
-        while (step < 10 && (tens % step > 0 || tens / step > 14))
-            ++step
-        valueAxis.tickCount = tens % step > 0 || tens / step > 14 ? 2 : tens / step + 1
+        if (tensOnly)
+            mark()
+        else
+            valueAxis.applyNiceNumbers()
         categoryAxis.clear()
         // Categories of one name would be one: marks that nobody sees tell them apart. Without any, the axis would go on
         // drawing those it had.
@@ -69,7 +79,7 @@ FocusScope {
         if (current < 0 || current >= values.length)
             return ""
         var value = values[current]
-        return labels[current] + "Hz<br>" + (isNaN(value) ? Texts.absent : value.toLocaleString(Qt.locale()) + valueSuffix)
+        return labels[current] + categorySuffix + "<br>" + (isNaN(value) ? Texts.absent : value.toLocaleString(Qt.locale()) + valueSuffix)
     }
 
     onBarColorChanged: if (bars.count > 0) bars.at(0).color = barColor
@@ -111,7 +121,7 @@ FocusScope {
                 id: valueAxis
 
                 min: 0
-                labelFormat: "%.0f"
+                labelFormat: barChart.tensOnly ? "%.0f" : ""
                 labelsColor: Theme.text
                 labelsFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize })
                 titleFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize, bold: true })

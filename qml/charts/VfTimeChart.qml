@@ -20,6 +20,8 @@ FocusScope {
     property Component curve: Component { LineSeries {} }
     /// What marks the points of a curve, a ScatterSeries, or null.
     property Component marks: null
+    /// What the series of each curve are made with: a color, and whatever else the kind has.
+    property var looks: ["#1db0da", "#1341a6", "#88d41e", "#ff8e1a", "#398ca3"].map(function (color) { return { color: color } })
 
     /// The moments of the records in ms, and for each curve its name and the records' numbers.
     property var times: []
@@ -42,7 +44,6 @@ FocusScope {
     property bool severalDays: false
     /// The moments of the time axis that are marked: {time, text}.
     readonly property var ticks: timeTicks(from, to, Math.max(2, Math.floor(plot.width / 110)))
-    readonly property var curveColors: ["#1db0da", "#1341a6", "#88d41e", "#ff8e1a", "#398ca3"]
     readonly property font textFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize })
     readonly property font headFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize, bold: true })
     readonly property alias seriesCount: chart.count
@@ -84,15 +85,15 @@ FocusScope {
         drawn.forEach(function (points, k) {
             [curve, marks].filter(Boolean).forEach(function (kind) {
                 TimeChart.pieces(points).forEach(function (piece) {
-                    drawPiece(kind, points, piece, curveColors[k % curveColors.length])
+                    drawPiece(kind, points, piece, looks[k % looks.length])
                 })
             })
         })
     }
 
-    function drawPiece(kind, points, piece, color) {
+    function drawPiece(kind, points, piece, look) {
         // A series on a chart redraws with every point: fill it first.
-        var series = kind.createObject(workshop, { color: color })
+        var series = kind.createObject(workshop, look)
         for (var i = piece.begin; i < piece.end; ++i)
             series.append(points.x[i], points.y[i])
         if (series.count === 1 && series.capStyle !== undefined) {      // a line of one point would not be seen
@@ -266,7 +267,7 @@ FocusScope {
                     anchors.verticalCenter: parent.verticalCenter
                     width: 9
                     height: 9
-                    color: timeChart.curveColors[index % timeChart.curveColors.length]
+                    color: timeChart.looks[index % timeChart.looks.length].color
                 }
                 VfText { font: timeChart.textFont; text: modelData; textFormat: Text.RichText }
             }

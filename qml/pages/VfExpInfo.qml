@@ -13,6 +13,10 @@ VfFrame {
     property var lines: []
     /// [{title, lines}] below them.
     property var groups: []
+    /// The same in rows beside the lines.
+    property var beside: []
+    readonly property real besideWidth: beside.length > 0 ? 365 : 0
+    readonly property var timeWeightings: ({ Slow: qsTr("Slow (S)"), Fast: qsTr("Fast (F)"), Impulse: qsTr("Impulse (I)") })
     /// What the page has beside its buttons.
     property real room: 900
 
@@ -24,23 +28,56 @@ VfFrame {
         return moment.toLocaleDateString(Qt.locale(), Locale.ShortFormat) + (clock ? Qt.formatTime(moment, " hh:mm") : "")
     }
 
-    Grid {
-        id: grid
+    Row {
+        spacing: 32
 
-        columns: 3
-        columnSpacing: 32
-        rowSpacing: 6
+        Grid {
+            id: grid
 
-        Repeater {
-            // A title has a row of the grid for itself, and what stands before it the rest of another.
-            model: info.groups.reduce(function (all, group) {
-                var rest = new Array((grid.columns - all.length % grid.columns) % grid.columns).fill({})
-                return all.concat(rest, { title: group.title }, new Array(grid.columns - 1).fill({}), group.lines)
-            }, info.lines)
-            VfInfoElement {
-                label: modelData.label ? modelData.label + ":" : modelData.title || ""
-                maximumWidth: (info.room - 2 * info.padding) / grid.columns - grid.columnSpacing
-                value: modelData.label ? Texts.text(modelData.value) : ""
+            columns: info.beside.length > 0 ? 2 : 3
+            columnSpacing: parent.spacing
+            rowSpacing: 6
+
+            Repeater {
+                // A title has a row of the grid for itself, and what stands before it the rest of another.
+                model: info.groups.reduce(function (all, group) {
+                    var rest = new Array((grid.columns - all.length % grid.columns) % grid.columns).fill({})
+                    return all.concat(rest, { title: group.title }, new Array(grid.columns - 1).fill({}), group.lines)
+                }, info.lines)
+                VfInfoElement {
+                    label: modelData.label ? modelData.label + ":" : modelData.title || ""
+                    maximumWidth: (info.room - 2 * info.padding - info.besideWidth) / grid.columns - grid.columnSpacing
+                    value: modelData.label ? Texts.text(modelData.value) : ""
+                }
+            }
+        }
+        Column {
+            spacing: grid.rowSpacing
+            visible: info.beside.length > 0
+
+            Repeater {
+                model: info.beside
+                Row {
+                    readonly property var group: modelData
+
+                    Accessible.role: Accessible.Grouping
+                    Accessible.name: group.title
+                    VfText { width: 110; color: Theme.quietText; font.bold: true; text: parent.group.title }
+                    Repeater {
+                        model: parent.group.lines
+                        Item {
+                            width: (info.besideWidth - 110) / parent.group.lines.length
+                            height: line.implicitHeight
+                            VfInfoElement {
+                                id: line
+
+                                label: modelData.label + ":"
+                                maximumWidth: parent.width - 6
+                                value: Texts.text(modelData.value)
+                            }
+                        }
+                    }
+                }
             }
         }
     }

@@ -8,7 +8,7 @@ VfListItem {
     id: item
 
     property string text
-    /// What was measured: a picture, and a word for those who cannot see it.
+    /// What was measured: a picture, a cross where none is known, and a word for those who cannot see it.
     property string picture
     property string kind
     /// What stands beside it: [{text, width}]; a line without a width takes what it needs.
@@ -41,6 +41,15 @@ VfListItem {
         mipmap: true    // shown smaller than it is, on most displays
         source: item.picture
         visible: item.picture !== ""
+    }
+    VfText {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 40
+        color: item.textColor
+        font.pixelSize: Theme.largeSize
+        horizontalAlignment: Text.AlignHCenter
+        text: "\u2715"
+        visible: item.kind !== "" && item.picture === ""
     }
     Repeater {
         model: item.lines

@@ -20,6 +20,8 @@ Row {
     property alias placeholderText: field.placeholderText
     property alias fieldWidth: field.width
     readonly property alias field: field
+    /// Who gets the keys before the field.
+    property list<Item> keysTo
 
     spacing: Theme.gap
 
@@ -41,6 +43,7 @@ Row {
         selectByMouse: true
         selectedTextColor: Theme.textOnDark
         selectionColor: Theme.accent
+        Keys.forwardTo: input.keysTo
         Accessible.role: Accessible.EditableText
         Accessible.name: input.description
         background: Rectangle {

@@ -31,7 +31,7 @@ TestCase {
         if (change)
             change(experiment)
         core.experiment = JSON.stringify(experiment)
-        core.experimentUpdated(position === undefined ? -3 : position)
+        family.announce(position === undefined ? -3 : position)
     }
 
     function view() { return family.viewOf(made) }

@@ -10,6 +10,7 @@ QtObject {
     property var deviceList: []
     property var experimentList: []
     property var virtualSchedulelist: []
+    property var expCompList: []
     readonly property string version: "1.0"
     readonly property string builtDate: "Oct  9 2019 - 09:37:01"
     readonly property string builtYear: "2019"
@@ -43,6 +44,7 @@ QtObject {
         deviceList = []
         experimentList = []
         virtualSchedulelist = []
+        expCompList = []
         calls = []
         codes = {}
         meanwhile = null
@@ -58,6 +60,7 @@ QtObject {
     function nextExp() { called("nextExp") }
     function prevExp() { called("prevExp") }
     function generateReport(cfg) { return called("generateReport", cfg) }
+    function refreshPartialResults(list) { called("refreshPartialResults", list) }
     function refreshWorkingHours(hours) { called("refreshWorkingHours", hours) }
     function acquireConfiguration() { return called("acquireConfiguration") }
     function sndConfiguration(cfg) { return called("sndConfiguration", cfg) }

@@ -13,7 +13,7 @@ InstrumentPageCase {
     product: "ZELK"
     title: "ZELK"
     configurationTitle: "Zelk - Configuration"
-    configurationSize: Qt.size(600, 280)
+    configurationHeight: 280
     page: Component { PageZelk {} }
     nameFilters: ["Suite Morvane Files (*.zlk)", "All files (*)"]
     several: true
