@@ -37,7 +37,8 @@ Rectangle {
         "THALVEX 2": thalvex2,
         "THALVEX 4": thalvex4,
         "NEMBRA": nembra,
-        "NEMBRA+": nembraPlus
+        "NEMBRA+": nembraPlus,
+        "LOMTRIX": lomtrix
     })
 
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
@@ -71,7 +72,10 @@ Rectangle {
         PageState { name: "NembraState"; page: nembra.page },
         PageState { name: "NembraResultsState"; page: nembra.results },
         PageState { name: "NembraPlusState"; page: nembraPlus.page },
-        PageState { name: "NembraPlusResultsState"; page: nembraPlus.results }
+        PageState { name: "NembraPlusResultsState"; page: nembraPlus.results },
+        PageState { name: "LomtrixState"; page: lomtrix.page },
+        PageState { name: "LomtrixComponentsState"; page: lomtrix.exposure },
+        PageState { name: "LomtrixResultsState"; page: lomtrix.results }
     ]
 
     Rectangle {
@@ -107,6 +111,7 @@ Rectangle {
         FamilyPages { id: thalvex4; product: "THALVEX 4"; name: "Thalvex4" }
         FamilyPages { id: nembra; product: "NEMBRA"; name: "Nembra" }
         FamilyPages { id: nembraPlus; product: "NEMBRA+"; name: "NembraPlus"; entered: nembra.page } // meant
+        FamilyPages { id: lomtrix; product: "LOMTRIX"; name: "Lomtrix"; asksExposure: true }
 
         Image {
             anchors { right: parent.right; top: parent.top; margins: Theme.gap * 2 }

@@ -93,6 +93,7 @@ Item {
                     { tag: "THALVEX 4", page: "Thalvex 4", state: "Thalvex4State" },
                     { tag: "NEMBRA", page: "Nembra", state: "NembraState" },
                     { tag: "NEMBRA+", page: "Nembra+", state: "NembraPlusState" },
+                    { tag: "LOMTRIX", page: "Lomtrix", state: "LomtrixState" },
                     { tag: "TOASTER", page: "HOME", state: "" }]
         }
 
@@ -139,6 +140,7 @@ Item {
                     { tag: "THALVEX 4", page: "Thalvex 4 - Results", state: "Thalvex4ResultsState" },
                     { tag: "NEMBRA", page: "Nembra - Results", state: "NembraResultsState" },
                     { tag: "NEMBRA+", page: "Nembra+ - Results", state: "NembraPlusResultsState" },
+                    { tag: "LOMTRIX", page: "Lomtrix - Exposure time", state: "LomtrixComponentsState" },
                     { tag: "ZELK", page: "HOME", state: "" }]
         }
 
@@ -161,6 +163,19 @@ Item {
             compare(shown(), "Thalvex 4")
             back()
             compare(shown(), "HOME")
+        }
+
+        function test_wayBackOverExposureTimes() {
+            found("LOMTRIX")
+            pick()
+            showResults("LOMTRIX")
+            core.resultsUpdated(-3)
+            var ways = [shown()]
+            for (var i = 0; i < 3; ++i) {
+                back()
+                ways.push(shown())
+            }
+            compare(ways, ["Lomtrix - Results", "Lomtrix - Exposure time", "Lomtrix", "HOME"])
         }
 
         function test_disconnectedLeadsHome() {
