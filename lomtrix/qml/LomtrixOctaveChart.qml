@@ -2,7 +2,6 @@
 import QtQuick 2.15
 import "../../qml/charts"
 import "../../qml/charts/timechart.js" as TimeChart
-import "../../qml/widgets/texts.js" as Texts
 import "lomtrix.js" as Lomtrix
 
 /// The resultant acceleration in each band.
@@ -10,8 +9,9 @@ VfBarChart {
     /// bands: {frequency, amr}, low to high.
     function populate(bands) {
         var values = bands.map(function (band) { return TimeChart.number(band.amr) })
+        function text(number, decimals) { return number.toLocaleString(Qt.locale(), "f", decimals) }
         dense = bands.length > 9
-        show(bands.map(function (band) { return Lomtrix.bandLabel(band.frequency, Texts.escaped) }), values,
+        show(bands.map(function (band) { return Lomtrix.bandLabel(band.frequency, text) }), values,
              (TimeChart.extremes([values]).high || 1) * 1.1)
     }
 

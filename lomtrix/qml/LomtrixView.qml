@@ -51,9 +51,10 @@ Item {
         id: evaluation
 
         anchors { left: parent.left; top: parent.top }
-        cellWidth: 100
+        cellWidth: 92
         color: Theme.decisiveGround
         columns: 7
+        columnSpacing: Theme.spacing
         label: qsTr("Evaluation")
         figures: [
             figure(qsTr("are"), acceleration, results.are), figure(qsTr("aren"), acceleration, results.aren),

@@ -14,7 +14,7 @@ Item {
             top: parent.top; bottom: parent.bottom; horizontalCenter: parent.horizontalCenter
             topMargin: Theme.pageTop; bottomMargin: 2 * Theme.margin + Theme.spacing
         }
-        width: Math.min(parent.width - 2 * Theme.margin, 980)
+        width: Math.min(parent.width - 2 * Theme.margin, 1080)
 
         Item {
             id: main

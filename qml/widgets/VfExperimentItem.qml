@@ -34,17 +34,22 @@ VfListItem {
         font { pixelSize: Theme.largeSize; bold: true }
         whole: item.text
     }
-    Image {
+    Rectangle {
         anchors.verticalCenter: parent.verticalCenter
-        width: 40
-        height: 40
-        mipmap: true    // shown smaller than it is, on most displays
-        source: item.picture
+        width: 44
+        height: 44
+        color: Theme.ground     // also where the item is selected, for pictures are made for it
+        radius: Theme.radius
         visible: item.picture !== ""
+        Image {
+            anchors { fill: parent; margins: 2 }
+            mipmap: true    // shown smaller than it is, on most displays
+            source: item.picture
+        }
     }
     VfText {
         anchors.verticalCenter: parent.verticalCenter
-        width: 40
+        width: 44
         color: item.textColor
         font.pixelSize: Theme.largeSize
         horizontalAlignment: Text.AlignHCenter

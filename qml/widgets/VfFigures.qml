@@ -10,13 +10,14 @@ VfFrame {
     /// [{caption, symbol, value}]: a symbol is a caption that is markup.
     property var figures: []
     property int columns: 1
+    property real columnSpacing: Theme.gap
     property int valueSize: Theme.largeSize
     /// What a caption and a value may take; of texts that do not fit the rest is told to a pointer that rests on them.
     property real cellWidth: 84
 
     Grid {
         columns: frame.columns
-        columnSpacing: Theme.gap
+        columnSpacing: frame.columnSpacing
         rowSpacing: 12
 
         Repeater {

@@ -145,7 +145,7 @@ ResultsPageCase {
             show()
             view().setTab(2)
             var bars = view().octaveChart
-            compare([bars.labels, bars.values[0], bars.dense], [["6.30", "999", "1k", "1.25k"], 0.25, false])
+            compare([bars.labels, bars.values[0], bars.dense], [["6.3", "999", "1k", "1.25k"], 0.25, false])
             bars.forceActiveFocus()
             keyClick(Qt.Key_Right)
             keyClick(Qt.Key_Right)
