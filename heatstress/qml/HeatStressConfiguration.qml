@@ -37,6 +37,7 @@ VfConfigurationWindow {
         id: sampleTime
 
         width: (parent.width - parent.spacing) / 2
+        height: 130
         label: qsTr("Sample time") + qsTr(" (mm:ss)*")
     }
 }

@@ -7,8 +7,6 @@ VfFrame {
     property alias text: field.text
     readonly property alias fault: field.fault
 
-    height: 130
-
     VfClockField {
         id: field
 
