@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 // What a measured dose means for a working day, and a hearing protector as the page sends it.
 
-#include "ardel/ardel2experiment.h"
+#include "ardel/ardel2file.h"
 #include "ardel/dose.h"
 #include "tests/families/familycase.h"
 
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QtTest>
 
@@ -212,6 +213,29 @@ private slots:
         const Dosimeter user = older.dosimeters()[2];
         QCOMPARE(QStringList({user.actionLevel, user.criterionLevel, user.exchangeRate, user.freqWeighting, user.label}),
                  QStringList({"70", "", "4", "Z", "USER"}));
+    }
+
+    /// What was written once by another program is read whole, and written again byte by byte; its figures follow from the
+    /// doses. A damaged middle is refused.
+    void storedExample()
+    {
+        QFile stored(MORVANE_TEST_DATA "/one.adl");
+        QVERIFY(stored.open(QIODevice::ReadOnly));
+        const QByteArray content = stored.readAll();
+        const QJsonObject document = QJsonDocument::fromJson(QByteArray::fromBase64(content.split('\n')[0])).object();
+        Ardel2File file("one.adl");
+        const ExperimentChain experiment(file.parseExperiment(content));
+        QVERIFY(experiment);
+        const QJsonObject body = document["Body"].toArray()[0].toObject();
+        QCOMPARE(experiment->toJson(), body);
+        QCOMPARE(VfFile::contentFor(document["Info"].toObject()["Device"].toObject(), experiment.get()), content);
+        QCOMPARE(work(*experiment->results(), "08:00"), 0);
+        QCOMPARE(experiment->results()->toJson(), body["results"].toObject());
+        QByteArray damaged = content;
+        damaged[damaged.size() / 2] = char(damaged[damaged.size() / 2] ^ 1);
+        QVERIFY(!file.parseExperiment(damaged));
+        QCOMPARE(file.status(), int(VfFile::WrongChecksum));
+        QVERIFY(file.isForeignProduct("ARDEL") && !file.isForeignProduct("ARDEL 2"));
     }
 
     /// As the page sends it; beside other data, and with what has no value in JSON.

@@ -206,6 +206,19 @@ private slots:
         QCOMPARE(levels(OctaveBands::Weighting::Z).size(), list.size());
     }
 
+    /// A family may know where a first band stands that instruments do not begin with.
+    void octavesFromElsewhere()
+    {
+        using namespace OctaveBands;
+        const auto first = [](const char *frequency) {
+            const QVector<LeqPerOctave> bands{{{{}, frequency, "80"}}};
+            return levels(bands, analysisOf("", Analysis::Octave), Weighting::A, 11).value(0);
+        };
+        QCOMPARE(first("125.00"), 63.9);
+        QCOMPARE(first("63.00"), 53.8);
+        QCOMPARE(first("32.00"), 40.6);
+    }
+
     /// The pages reckon as the reports do.
     void octavesOnPages_data() { octaves_data(); }
     void octavesOnPages()
