@@ -100,6 +100,7 @@ VfFrame {
         VfClockField {
             id: start
 
+            fieldWidth: 64
             label: qsTr("Start time")
             labelWidth: 90
             refusal: qsTr("Start time shall have hh:mm format")
@@ -107,8 +108,8 @@ VfFrame {
         VfClockField {
             id: stop
 
+            fieldWidth: 64
             label: qsTr("Stop time")
-            labelWidth: 90
             refusal: qsTr("Stop time shall have hh:mm format") + "."
         }
         VfCheckBox { id: pausable; text: qsTr("Break") }
@@ -116,6 +117,7 @@ VfFrame {
             id: pause
 
             enabled: pausable.checked
+            fieldWidth: 64
             label: qsTr("Pause time")
             labelWidth: 80
             opacity: enabled ? 1 : 0.5
@@ -125,6 +127,7 @@ VfFrame {
             id: resume
 
             enabled: pausable.checked
+            fieldWidth: 64
             label: qsTr("Resume time")
             labelWidth: 90
             opacity: enabled ? 1 : 0.5

@@ -55,8 +55,10 @@ VfConfigurationBody {
             height: noise.height
             spacing: parent.spacing
 
-            VfNoiseSettings { id: noise; width: parent.width - duration.parent.width - parent.spacing }
+            VfNoiseSettings { id: noise; width: parent.width - length.width - parent.spacing }
             VfFrame {
+                id: length
+
                 width: 230
                 height: parent.height
                 label: qsTr("Experiment duration (hh:mm) *")

@@ -34,6 +34,7 @@ Item {
     }
 
     VfWorkingHours { id: hours; y: 520 }
+    VfSpinBox { id: level; x: 500; y: 400; least: 80; most: 90 }
 
     TestCase {
         id: testCase
@@ -139,6 +140,28 @@ Item {
             compare(hours.warning, row.warning)
             hours.show("07:30")
             compare([field.text, hours.warning], ["07:30", ""])
+        }
+
+        function test_spin_data() {
+            return [{ tag: "up", shown: 85, key: Qt.Key_Up, value: 86 }, { tag: "page up", shown: 85, key: Qt.Key_PageUp, value: 90 },
+                    { tag: "at the end", shown: 80, key: Qt.Key_Down, value: 80 },
+                    { tag: "above, down", shown: 140, key: Qt.Key_Down, value: 90 },
+                    { tag: "above, up", shown: 140, key: Qt.Key_Up, value: 140 },
+                    { tag: "below, page up", shown: -3, key: Qt.Key_PageUp, value: 80 }]
+        }
+
+        /// Beyond its range it shows what it was given; the first step leads into the range for good.
+        function test_spin(row) {
+            level.show(row.shown)
+            level.Window.window.requestActivate()
+            level.forceActiveFocus()
+            tryVerify(function () { return level.Window.window.active && level.activeFocus })
+            compare([level.value, level.contentItem.text], [row.shown, String(row.shown)])
+            keyClick(row.key)
+            tryCompare(level, "value", row.value)
+            compare([level.value, level.contentItem.text], [row.value, String(row.value)])
+            if (row.value !== row.shown)
+                compare([level.from, level.to], [80, 90])
         }
 
         function test_ticks() {
