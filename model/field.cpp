@@ -78,6 +78,7 @@ QString wireText(const QByteArray &piece, Form form)
     case Form::Plain:
     case Form::IfThere:
     case Form::DateOrEmpty:
+    case Form::DateIfThere:
         break;
     }
     return text;

@@ -30,6 +30,7 @@ enum class Form {
     ClockIfThere, ///< the same; an empty place leaves the member as it is
     Degree,       ///< a letter on the wire, kept behind a degree sign: "°C"
     DateOrEmpty,  ///< of a date: one that is not valid is an empty text in JSON
+    DateIfThere,  ///< of a date: an empty place leaves the member as it is
 };
 
 constexpr int NotOnWire = 0; ///< header of a row that instruments do not send
@@ -143,7 +144,7 @@ template <class T> void readPiece(T &record, const Field<T> &field, const Pieces
     if (field.form == Form::IfThere && at >= pieces.size())
         return;
     const QByteArray piece = pieces.value(at);
-    if (field.form == Form::ClockIfThere && piece.isEmpty())
+    if (piece.isEmpty() && (field.form == Form::ClockIfThere || field.form == Form::DateIfThere))
         return;
     std::visit(Overloaded{
                    [&](QString T::*text) { record.*text = sharedText(wireText(piece, field.form)); },

@@ -10,12 +10,12 @@ struct OctaveBand {
     QString value;     ///< level in dB, or acceleration in m/s²
 
     /// The rows of a band whose value stands under \a valueKey. Each band comes in a line of its own.
-    template <class Band> static FieldRows<Band> rows(const QByteArray &valueKey)
+    template <class Band> static FieldRows<Band> rows(const QByteArray &valueKey, Form form = Form::Plain)
     {
         return {
-            {"freqIdx", InRecord, 3, &Band::freqIdx},
-            {"frequency", InRecord, 4, &Band::frequency},
-            {valueKey, InRecord, 5, &Band::value},
+            {"freqIdx", InRecord, 3, &Band::freqIdx, form},
+            {"frequency", InRecord, 4, &Band::frequency, form},
+            {valueKey, InRecord, 5, &Band::value, form},
         };
     }
 };
@@ -59,7 +59,7 @@ struct AmrPerOctave : OctaveBand {
     QString amr() const { return value; }
     static const Fields<AmrPerOctave> &fields()
     {
-        static const Fields<AmrPerOctave> table({rows<AmrPerOctave>("amr")});
+        static const Fields<AmrPerOctave> table({rows<AmrPerOctave>("amr", Form::Dashed)});
         return table;
     }
 };

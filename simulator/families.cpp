@@ -12,6 +12,7 @@ const QVector<SimulatedFamily> &families()
          }},
         {"nembra", [](quint32 seed, int, const Memory &memory) { return simulatedNembra(seed, memory); }},
         {"nembraplus", [](quint32 seed, int, const Memory &memory) { return simulatedNembraPlus(seed, memory); }},
+        {"lomtrix", [](quint32 seed, int, const Memory &memory) { return simulatedLomtrix(seed, memory); }},
         {"zelk", [](quint32 seed, int, const Memory &memory) { return simulatedZelk(seed, memory); }, everySensor},
     };
     return rows;

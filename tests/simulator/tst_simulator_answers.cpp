@@ -213,6 +213,54 @@ private slots:
         QCOMPARE(spectrum.size(), qMax(1, bands));
     }
 
+    void vibrationIsConsistent_data()
+    {
+        QTest::addColumn<QByteArray>("type");
+        QTest::addColumn<int>("bands");
+        QTest::newRow("hand and arm") << QByteArray("H") << 8;
+        QTest::newRow("whole body") << QByteArray("B") << 23;
+    }
+    /// What the headers say can be found in the records again.
+    void vibrationIsConsistent()
+    {
+        QFETCH(QByteArray, type);
+        QFETCH(int, bands);
+        SimulatedExperiment plan{480, 60, "26/03/10,07:30:00-12", 240, 3600};
+        plan.index = 4;
+        plan.type = type;
+        const auto instrument = simulatedLomtrix(7, {plan});
+        const QByteArrayList general = header(*instrument, 1, 4);
+        const QByteArrayList told = header(*instrument, 2, 4);
+        const QByteArrayList statistics = header(*instrument, 3, 4);
+        const auto all = records(*instrument, plan);
+        double squares = 0;
+        for (int axis = 0; axis < 3; ++axis) {
+            double most = 0, least = 1000, sum = 0, dose = 0, crest = 0;
+            for (const QByteArrayList &record : all) {
+                QCOMPARE(record.size(), 16);
+                const double now = record.at(6 + axis).toDouble();
+                most = qMax(most, now);
+                least = qMin(least, now);
+                sum += now;
+                crest = qMax(crest, record.at(9 + axis).toDouble());
+                dose += std::pow(record.at(12 + axis).toDouble(), 4);
+                squares += axis == 0 ? std::pow(record.at(15).toDouble(), 2) : 0;
+            }
+            const auto about = [](const QByteArray &text, double value) { return std::abs(text.toDouble() - value) < 0.000501; };
+            QVERIFY(about(statistics.at(2 + axis), most) && about(statistics.at(5 + axis), least));
+            QVERIFY(about(statistics.at(14 + axis), sum / plan.size));
+            QVERIFY(about(told.at(3 + axis), std::pow(dose, 0.25)) && about(told.at(6 + axis), crest));
+            QCOMPARE(general.at(14 + axis), QByteArray(type == "B" && axis < 2 ? "1.40" : "1.00"));
+        }
+        QVERIFY(std::abs(told.at(2).toDouble() - std::sqrt(squares / plan.size)) < 0.000501);
+        double ofBands = 0;
+        const auto spectrum = lines(*instrument, "AT+VFXPHDR=4,4");
+        for (const QByteArrayList &band : spectrum)
+            ofBands += std::pow(band.at(5).toDouble(), 2);
+        QCOMPARE(spectrum.size(), bands);
+        QVERIFY(std::abs(std::sqrt(ofBands) - told.at(2).toDouble()) < 0.01);
+    }
+
     /// Fixed, so that a file stored beside the tests stays what the instrument sends.
     void sameSeedSameValues()
     {
