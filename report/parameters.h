@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QString>
+#include <QVector>
 
 #include <variant>
 #include <vector>
@@ -11,7 +12,7 @@ class QJsonObject;
 /// A choice of the report window: its key in the window's JSON text and the member that keeps it.
 struct ReportParameter {
     const char *key;
-    std::variant<bool *, QString *> member;
+    std::variant<bool *, QString *, QVector<int> *> member; ///< a list: whole numbers from 0 on, ascending, each once
 };
 
 using ReportParameters = std::vector<ReportParameter>;

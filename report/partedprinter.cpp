@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "report/partedprinter.h"
 
-#include "report/vfheadedtable.h"
+#include "report/vfnormaltable.h"
 
 int PartedPrinter::printReport()
 {
@@ -52,7 +52,7 @@ void PartedPrinter::wholeSection(const QString &title, const Content &content)
     keepTogether([&] { section(title, content); });
 }
 
-void PartedPrinter::tableSection(const QString &title, VfHeadedTable &table)
+void PartedPrinter::tableSection(const QString &title, VfNormalTable &table)
 {
     const int frame = rehearse([&] { section(title, [] {}); }).height + table.headerHeight();
     for (int row = 0; row < table.rowCount();) {

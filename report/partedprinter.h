@@ -5,7 +5,7 @@
 
 #include <vector>
 
-class VfHeadedTable;
+class VfNormalTable;
 
 /// A report that begins with its front and goes on in parts, each with pages of its own and perhaps a log table behind
 /// them. What does not fit on a page moves to a next one; the total is counted by what draws.
@@ -34,7 +34,7 @@ protected:
     /// A section that moves to the next page when it does not fit on this one.
     void wholeSection(const QString &title, const Content &content);
     /// A section with as many rows of \a table as fit, and on the next pages more of them.
-    void tableSection(const QString &title, VfHeadedTable &table);
+    void tableSection(const QString &title, VfNormalTable &table);
 
 private:
     void drawAll(bool withLogTable);

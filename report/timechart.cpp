@@ -19,7 +19,8 @@ using namespace QtCharts;
 namespace {
 
 constexpr int minute = 60 * 1000;
-constexpr int mostTimes = 7;       ///< labels that find room across a report
+constexpr int reportWidth = 600;   ///< pixels
+constexpr int mostTimes = 7;       ///< labels that find room across them
 constexpr int besideThePlot = 85;  ///< pixels of a chart's height for titles and labels
 constexpr int heightOfAValue = 19; ///< pixels
 
@@ -123,20 +124,26 @@ void TimeChart::addCurves(QChart *chart) const
     }
 }
 
-void TimeChart::addAxes(const ChartScene &scene, qreal height) const
+std::pair<double, double> TimeChart::valueRange() const
 {
-    const int mostValues = qMax(3, int(height - besideThePlot) / heightOfAValue);
+    const auto [lowest, highest] = std::minmax({std::min(m_lowest, m_look.searched), std::max(m_highest, -m_look.searched)});
     const bool tenth = m_look.beyond == Beyond::Tenth;
-    double lowest = std::min(m_lowest, m_highest);
-    double highest = std::max(m_lowest, m_highest);
-    lowest -= tenth ? std::abs(lowest) / 10 : 1;
-    highest += tenth ? std::abs(highest) / 10 : 1;
+    if (std::isinf(lowest) || (tenth && lowest == 0 && highest == 0))
+        return {-1, 1};
+    return {lowest - (tenth ? std::abs(lowest) / 10 : 1), highest + (tenth ? std::abs(highest) / 10 : 1)};
+}
+
+void TimeChart::addAxes(const ChartScene &scene, const QSizeF &size) const
+{
+    const int mostValues = qMax(3, int(size.height() - besideThePlot) / heightOfAValue);
+    const auto [lowest, highest] = valueRange();
     scene.addAxis(axisOf(Ticks::values(lowest, highest, mostValues), lowest, highest), Qt::AlignLeft, m_valueTitle, m_font);
     const bool empty = m_begin > m_end;
     const double begin = empty ? 0 : m_begin - (m_begin == m_end ? minute : 0);
     const double end = empty ? 1 : m_end + (m_begin == m_end ? minute : 0);
-    // the last label stands within the chart
-    const QVector<Tick> times = empty ? QVector<Tick>() : Ticks::times(begin, end - (end - begin) / 28, mostTimes);
+    const double width = size.width() / reportWidth;
+    const double within = end - (end - begin) / (28 * width); // the last label stands within the chart
+    const QVector<Tick> times = empty ? QVector<Tick>() : Ticks::times(begin, within, qRound(mostTimes * width));
     scene.addAxis(axisOf(times, begin, end), Qt::AlignBottom, m_timeTitle, m_font);
 }
 
@@ -146,6 +153,6 @@ int TimeChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal s
     addCurves(scene.chart());
     scene.chart()->legend()->setFont(m_font);
     scene.chart()->legend()->setVisible(m_look.legend);
-    addAxes(scene, size.height());
+    addAxes(scene, size);
     return scene.render(painter, x, y);
 }

@@ -8,6 +8,7 @@
 #include <QVector>
 
 #include <limits>
+#include <utility>
 
 class ChartScene;
 class QPainter;
@@ -26,6 +27,8 @@ public:
         Curves curves = Curves::Smooth;
         Beyond beyond = Beyond::One;
         bool legend = true;
+        /// The lowest value is searched from here on, the highest from the opposite.
+        double searched = 200;
     };
 
     explicit TimeChart(const QFont &font) : m_font(font) {}
@@ -57,7 +60,9 @@ private:
         QVector<QVector<QPointF>> pieces;
     };
     void addCurves(QtCharts::QChart *chart) const;
-    void addAxes(const ChartScene &scene, qreal height) const;
+    void addAxes(const ChartScene &scene, const QSizeF &size) const;
+    /// What the axis of values holds.
+    std::pair<double, double> valueRange() const;
 
     Look m_look;
     QFont m_font;
@@ -66,8 +71,8 @@ private:
     QString m_valueTitle;
     int m_columns = 1200;
     QVector<Curve> m_curves;
-    qreal m_lowest = 200; ///< of all points, also those that are not drawn
-    qreal m_highest = -200;
+    qreal m_lowest = std::numeric_limits<qreal>::infinity(); ///< of all points, also those that are not drawn
+    qreal m_highest = -std::numeric_limits<qreal>::infinity();
     qreal m_begin = std::numeric_limits<qreal>::infinity();
     qreal m_end = -std::numeric_limits<qreal>::infinity();
 };

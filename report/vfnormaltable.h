@@ -15,6 +15,8 @@ public:
     void setHeader(const QList<VfSubSuperScript *> &items) override;
     void setHeader(const QStringList &heads);
     void setRows(const QList<VfTableRow *> &rows) override;
+    /// Gives all columns the same width, whatever stands in them.
+    void setColumnWidth(int width) { m_columnWidths.fill(width); }
     /// Returns where the table ends; a table wider than the window is not drawn and gives 0.
     int draw(int x, int y) override;
     /// Draws the heads and \a count rows from \a first on. Returns where they end.

@@ -140,8 +140,13 @@ protected:
     template <class Chart> void placeChart(const Chart &chart, int height)
     {
         if (!isRehearsing())
-            chart.draw(m_painter.get(), m_hSpace, m_y, QSizeF(windowWidth() + 1 - 2 * m_hSpace, height), 1.0);
+            placeChart(chart, QRect(m_hSpace, m_y, windowWidth() + 1 - 2 * m_hSpace, height));
         m_y += height;
+    }
+    /// Puts \a chart in a place of the page and leaves the cursor.
+    template <class Chart> void placeChart(const Chart &chart, const QRect &place)
+    {
+        chart.draw(m_painter.get(), place.x(), place.y(), place.size(), 1.0);
     }
 
     // --- sections that all families share ---
