@@ -31,6 +31,13 @@
 #include "thalvex4/thalvex4log.h"
 #include "thalvex4/thalvex4printer.h"
 #include "thalvex4/thalvex4results.h"
+#include "zelk/zelk.h"
+#include "zelk/zelkconfig.h"
+#include "zelk/zelkexperiment.h"
+#include "zelk/zelkfile.h"
+#include "zelk/zelklog.h"
+#include "zelk/zelkprinter.h"
+#include "zelk/zelkresults.h"
 
 #include <algorithm>
 
@@ -46,6 +53,7 @@ const Product products[] = {
               NembraExposureComponent>("NEMBRA", ".nbr"),
     productOf<NembraPlus, NembraPlusConfig, NembraPlusExperiment, NembraPlusFile, NembraPlusLog, NembraPlusPrinter,
               NembraPlusResults, NembraPlusExposureComponent>("NEMBRA+", ".nbp"),
+    productOf<Zelk, ZelkConfig, ZelkExperiment, ZelkFile, ZelkLog, ZelkPrinter, ZelkResults>("ZELK", ".zlk"),
 };
 
 template <class Predicate> const Product *productWhere(Predicate predicate)

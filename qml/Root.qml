@@ -38,7 +38,8 @@ Rectangle {
         "THALVEX 4": thalvex4,
         "NEMBRA": nembra,
         "NEMBRA+": nembraPlus,
-        "LOMTRIX": lomtrix
+        "LOMTRIX": lomtrix,
+        "ZELK": zelk
     })
 
     function numberToLocalString(num) { return Local.numberText(num, Qt.locale()) }
@@ -75,7 +76,9 @@ Rectangle {
         PageState { name: "NembraPlusResultsState"; page: nembraPlus.results },
         PageState { name: "LomtrixState"; page: lomtrix.page },
         PageState { name: "LomtrixComponentsState"; page: lomtrix.exposure },
-        PageState { name: "LomtrixResultsState"; page: lomtrix.results }
+        PageState { name: "LomtrixResultsState"; page: lomtrix.results },
+        PageState { name: "ZelkState"; page: zelk.page; backPage: thalvex2.page }, // meant
+        PageState { name: "ZelkResultsState"; page: zelk.results }
     ]
 
     Rectangle {
@@ -97,7 +100,7 @@ Rectangle {
             imgbtnpichover: "/voltar1xhover.png"
             imgbtnpicclicked: "/voltar1xclicked.png"
             label: qsTr("Back")
-            onMyImgBtnClicked: root.state = page.caller
+            onMyImgBtnClicked: root.state = page ? page.caller : "" // that of another family may not be made yet
         }
     }
 
@@ -112,6 +115,7 @@ Rectangle {
         FamilyPages { id: nembra; product: "NEMBRA"; name: "Nembra" }
         FamilyPages { id: nembraPlus; product: "NEMBRA+"; name: "NembraPlus"; entered: nembra.page } // meant
         FamilyPages { id: lomtrix; product: "LOMTRIX"; name: "Lomtrix"; asksExposure: true }
+        FamilyPages { id: zelk; product: "ZELK"; name: "Zelk" }
 
         Image {
             anchors { right: parent.right; top: parent.top; margins: Theme.gap * 2 }

@@ -94,6 +94,7 @@ Item {
                     { tag: "NEMBRA", page: "Nembra", state: "NembraState" },
                     { tag: "NEMBRA+", page: "Nembra+", state: "NembraPlusState" },
                     { tag: "LOMTRIX", page: "Lomtrix", state: "LomtrixState" },
+                    { tag: "ZELK", page: "ZELK", state: "ZelkState" },
                     { tag: "TOASTER", page: "HOME", state: "" }]
         }
 
@@ -141,7 +142,8 @@ Item {
                     { tag: "NEMBRA", page: "Nembra - Results", state: "NembraResultsState" },
                     { tag: "NEMBRA+", page: "Nembra+ - Results", state: "NembraPlusResultsState" },
                     { tag: "LOMTRIX", page: "Lomtrix - Exposure time", state: "LomtrixComponentsState" },
-                    { tag: "ZELK", page: "HOME", state: "" }]
+                    { tag: "ZELK", page: "Zelk - Results", state: "ZelkResultsState" },
+                    { tag: "TOASTER", page: "HOME", state: "" }]
         }
 
         function test_resultsOfAFile(row) {
