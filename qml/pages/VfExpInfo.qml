@@ -45,6 +45,7 @@ VfFrame {
                     return all.concat(rest, { title: group.title }, new Array(grid.columns - 1).fill({}), group.lines)
                 }, info.lines)
                 VfInfoElement {
+                    width: Math.max(1, implicitWidth)   // nothing would take no cell of the grid
                     label: modelData.label ? modelData.label + ":" : modelData.title || ""
                     maximumWidth: (info.room - 2 * info.padding - info.besideWidth) / grid.columns - grid.columnSpacing
                     value: modelData.label ? Texts.text(modelData.value) : ""

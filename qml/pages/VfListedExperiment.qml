@@ -10,7 +10,7 @@ VfExperimentItem {
     }
 
     text: modelData.index + ":"
-    lines: (modelData.exp_Name === undefined ? [] : [{ text: modelData.exp_Name, width: 200 }]).concat(
+    lines: (modelData.exp_Name === undefined ? [] : [{ text: modelData.exp_Name, width: kind ? 150 : 200 }]).concat(
         { text: qsTr("Date") + ": " + dateText(modelData.dateTime), width: 360 },
         { text: qsTr("Size") + ": " + modelData.size })
 }
