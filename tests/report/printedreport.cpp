@@ -102,6 +102,21 @@ QRectF PrintedReport::box(const QString &text, int page) const
     return {};
 }
 
+QStringList PrintedReport::faults(int page) const
+{
+    const QVector<Word> all = words(page);
+    const qreal foot = box(QStringLiteral("of"), page).top() + 20;
+    QStringList found = overlaps(all);
+    for (const Word &word : all) {
+        if (word.box.bottom() > foot || word.box.right() >= 610 || word.box.left() < -10)
+            found.append(QStringLiteral("beside the page: ") + word.text);
+    }
+    const QString number = QStringLiteral("%1 of %2").arg(page).arg(pages());
+    if (!text(page).simplified().contains(number))
+        found.append(QStringLiteral("not page ") + number);
+    return found;
+}
+
 QVector<QVector<QPointF>> PrintedReport::curves() const
 {
     static const QRegularExpression path(QStringLiteral(" d=\"([^\"]*)\""));

@@ -34,6 +34,8 @@ public:
     QVector<Word> words(int page) const;
     /// The first word \a text of page \a page; a null box when there is none.
     QRectF box(const QString &text, int page = 1) const;
+    /// What is wrong with page \a page: words on one another or beside the page, or a foot that tells another number.
+    QStringList faults(int page) const;
     /// Ends and control points of the smooth lines of page 1, each line of more than one piece.
     QVector<QVector<QPointF>> curves() const;
     /// Page \a page in shades of grey.

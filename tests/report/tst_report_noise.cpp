@@ -153,15 +153,8 @@ private slots:
         QCOMPARE(printed.report.result(), 0);
         QTEST(printed.report.pages(), "pages");
         for (const int page : {1, 2, 3, printed.report.pages()}) {
-            if (page > printed.report.pages())
-                continue;
-            const QString foot = QString("%1 of %2").arg(page).arg(printed.report.pages());
-            QVERIFY2(printed.text(page).contains(foot), qPrintable(foot));
-            QCOMPARE(overlaps(printed.report.words(page)), QStringList());
-            const qreal top = printed.report.box("of", page).top();
-            const auto words = printed.report.words(page);
-            for (const PrintedReport::Word &word : words)
-                QVERIFY2(word.box.bottom() <= top + 20 && word.box.right() < 610, qPrintable(word.text));
+            if (page <= printed.report.pages())
+                QCOMPARE(printed.report.faults(page), QStringList());
         }
     }
 

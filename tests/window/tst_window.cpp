@@ -81,6 +81,7 @@ private slots:
     void unitsGrowAndShrink();
     void severalAtOnce_data();
     void severalAtOnce();
+    void quantitiesGrowAndShrink();
     void configureAndErase_data() { products(); }
     void configureAndErase();
     void unplugInMidDownload_data() { products(); }
@@ -95,6 +96,7 @@ private:
     void click(QQuickItem *item);
     void press(const QString &button);
     void enter(const QString &product);
+    void lookAtTabs(const QStringList &titles);
     void chooseFile(const QString &path);
     void answer(const QString &text, QMessageBox::StandardButton button);
     QString state() const { return m_root->property("state").toString(); }
@@ -178,6 +180,17 @@ void TestWindow::enter(const QString &product)
                      has("serialNumber", QString::fromLatin1(instrument(product).inside().identity().serialNumber)))));
     click(item);
     QTRY_VERIFY(experimentItem(1) && experimentItem(3));
+}
+
+void TestWindow::lookAtTabs(const QStringList &titles)
+{
+    for (const QString &title : titles) {
+        QQuickItem *button = findInWindows(
+            [&](const QQuickItem *item) { return item->property("text") == title && item->property("checked").isValid(); });
+        click(button);
+        QTRY_VERIFY(button->property("checked").toBool());
+        QTest::qWait(300); // what moves and draws between them
+    }
 }
 
 QQuickItem *TestWindow::experimentItem(int index) const
@@ -302,13 +315,7 @@ void TestWindow::severalAtOnce()
         QTRY_COMPARE(state(), name + QLatin1String("ResultsState"));
         const QString first = m_core->experiment();
         for (const char *arrow : {"Next experiment", "Next experiment", "Previous experiment", "Previous experiment", ""}) {
-            for (const char *tab : {"L<sub>eq</sub> x Octave", "Results", "L<sub>Aeq</sub> x Time"}) {
-                QQuickItem *button = findInWindows(
-                    [&](const QQuickItem *item) { return item->property("text") == tab && item->property("checked").isValid(); });
-                click(button);
-                QTRY_VERIFY(button->property("checked").toBool());
-                QTest::qWait(300); // what moves and draws between them
-            }
+            lookAtTabs({"L<sub>eq</sub> x Octave", "Results", "L<sub>Aeq</sub> x Time"});
             if (*arrow)
                 click(findInWindows(has("label", QLatin1String(arrow))));
         }
@@ -329,6 +336,32 @@ void TestWindow::severalAtOnce()
     chooseFile(path + (product.endsWith(QLatin1Char('+')) ? QLatin1String(".nbp") : QLatin1String(".nbr")));
     walk();
     QCOMPARE(m_core->experiment(), downloaded);
+}
+
+/// A chain of 1, 8, 3 and 1 quantities walked to and fro, and again from its file.
+void TestWindow::quantitiesGrowAndShrink()
+{
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedZelk(5)));
+    const QString path = m_folder.filePath(QStringLiteral("all.zlk"));
+    const auto walk = [this] {
+        QTRY_COMPARE(state(), QStringLiteral("ZelkResultsState"));
+        const char *const arrows[] = {"Next", "Next", "Next", "Previous", "Previous", "Previous", nullptr};
+        const int quantities[] = {1, 8, 3, 1, 3, 8, 1};
+        for (int step = 0; step < 7; ++step) {
+            lookAtTabs({"Results", "Table", "Charts"});
+            QCOMPARE(findInWindows(has("listName", "Quantities"))->property("count").toInt(), quantities[step]);
+            if (arrows[step])
+                click(findInWindows(has("label", QLatin1String(arrows[step]) + QLatin1String(" experiment"))));
+        }
+    };
+    m_core->findDevices();
+    QCOMPARE(m_core->createDevice(2), 0);
+    QCOMPARE(m_core->findExperiments(), 0);
+    QCOMPARE(m_core->createExperiment(QStringLiteral("[0,5,2,6]")), 0);
+    walk();
+    QCOMPARE(m_core->saveExperimentToFile(path), 0);
+    m_core->parseFile(path);
+    walk();
 }
 
 void TestWindow::configureAndErase()
