@@ -17,7 +17,7 @@ VfBarChart {
 
     categorySuffix: " Hz"
     categoryTitle: qsTr("Frequency [Hz]")
-    tensOnly: false
+    nice: true
     title: qsTr("Amr x Octave")
     valueTitle: qsTr("Amr") + " [" + Lomtrix.accelerationUnit + "]"
     valueSuffix: " " + Lomtrix.accelerationUnit

@@ -26,6 +26,7 @@ Item {
 
     function draw() {
         function text(number, decimals) { return number.toLocaleString(Qt.locale(), "f", decimals) }
+        bars.seriesName = curve + qsTr("-Weightning")
         bars.show(bands.map(function (band) { return Octaves.label(band.frequency, text) }),
                   Octaves.levels(bands, step, curve), Octaves.maximum(Octaves.levels(bands, step, "Z"), bars.pointSize))
     }

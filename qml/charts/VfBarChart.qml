@@ -3,22 +3,24 @@ import QtQuick 2.15
 import QtCharts 2.3
 import "../widgets"
 import "../widgets/texts.js" as Texts
+import "bars.js" as Bars
 
 /// Bars over categories. What is pointed at, by the pointer or with left and right, is told in a note.
 FocusScope {
     id: barChart
 
-    // Title, axis titles and suffix are markup: charts take every text for it.
+    // Title, axis titles and suffixes are markup: charts take every text for it.
     property alias title: chart.title
     property alias valueTitle: valueAxis.titleText
     property alias categoryTitle: categoryAxis.titleText
     property string valueSuffix
     property string categorySuffix: "Hz"
+    property string seriesName
     property color barColor: "#1db0da"
     /// The categories stand upright, in smaller letters.
     property bool dense: false
-    /// Whether the values are marked in whole tens, as levels are; else at nice numbers.
-    property bool tensOnly: true
+    /// Whether the value axis ends at the nice number behind the maximum.
+    property bool nice: false
     readonly property int pointSize: dense ? 10 : 12
 
     property var labels: []
@@ -27,14 +29,8 @@ FocusScope {
     property int current: -1
     readonly property rect plot: chart.plotArea
     readonly property real slot: plot.width / Math.max(1, values.length)
-
-    /// Marks at round values: each ten, or as few tens as are no crowd.
-    function mark() {
-        var tens = Math.round(valueAxis.max / 10), step = 1
-        while (step < 10 && (tens % step > 0 || tens / step > 14))
-            ++step
-        valueAxis.tickCount = tens % step > 0 || tens / step > 14 ? 2 : tens / step + 1
-    }
+    /// Whether the bars are too narrow for the labels of them all.
+    readonly property bool crowded: slot < 24
 
     /// A value that is NaN has no bar; no bar ends above maximum.
     function show(categories, numbers, maximum) {
@@ -42,20 +38,31 @@ FocusScope {
         bars.clear()
         labels = categories
         values = numbers
-        valueAxis.max = maximum
-        if (tensOnly)
-            mark()
-        else
+        mark(maximum)
+        if (nice) {
+            valueAxis.tickCount = 5     // what the last nice numbers came to would else count
             valueAxis.applyNiceNumbers()
+            mark(valueAxis.max)
+        }
         categoryAxis.clear()
         // Categories of one name would be one: marks that nobody sees tell them apart. Without any, the axis would go on
         // drawing those it had.
         categoryAxis.categories = categories.length === 0 ? ["\u200b"] : categories.map(function (label, i) {
             return label + new Array(i + 1).join("\u200b")
         })
-        bars.append("", numbers.map(function (value) { return isNaN(value) ? 0 : value }))
+        bars.append(seriesName, numbers.map(function (value) { return isNaN(value) ? 0 : value }))
         bars.at(0).color = barColor
         bars.at(0).borderColor = "transparent"
+    }
+
+    /// Marks the axis from 0 to maximum at round values, as many as there is room for.
+    function mark(maximum) {
+        var step = Bars.step(maximum, Math.max(3, Math.floor((height - 120) / 25)))
+        // The axis makes all its marks at once: it must never see a long range with small steps.
+        valueAxis.tickInterval = Math.max(valueAxis.tickInterval, step)
+        valueAxis.max = maximum
+        valueAxis.tickInterval = step
+        valueAxis.labelFormat = "%." + Bars.decimals(step) + "f"
     }
 
     function forget() {
@@ -79,9 +86,11 @@ FocusScope {
         if (current < 0 || current >= values.length)
             return ""
         var value = values[current]
-        return labels[current] + categorySuffix + "<br>" + (isNaN(value) ? Texts.absent : value.toLocaleString(Qt.locale()) + valueSuffix)
+        return labels[current] + categorySuffix + "<br>"
+             + (isNaN(value) ? Texts.absent : value.toLocaleString(Qt.locale()) + valueSuffix)
     }
 
+    onHeightChanged: mark(valueAxis.max)
     onBarColorChanged: if (bars.count > 0) bars.at(0).color = barColor
     activeFocusOnTab: true
     Accessible.role: Accessible.Chart
@@ -111,8 +120,8 @@ FocusScope {
                 id: categoryAxis
 
                 gridVisible: false
-                labelsAngle: barChart.dense ? 80 : 0.001 // an angle keeps labels whole that are wider than their bar
-                labelsColor: Theme.text
+                labelsAngle: barChart.dense && !barChart.crowded ? 80 : 0.001 // an angle keeps labels whole that are wider than their bar
+                labelsColor: barChart.crowded ? "transparent" : Theme.text
                 labelsFont: Qt.font({ family: fontSans.name, pointSize: barChart.pointSize })
                 titleFont: valueAxis.titleFont
                 titleVisible: barChart.values.length > 0 // without categories it has no place
@@ -121,11 +130,23 @@ FocusScope {
                 id: valueAxis
 
                 min: 0
-                labelFormat: barChart.tensOnly ? "%.0f" : ""
+                tickInterval: 1
+                tickType: ValueAxis.TicksDynamic
                 labelsColor: Theme.text
                 labelsFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize })
                 titleFont: Qt.font({ family: fontSans.name, pixelSize: Theme.smallSize, bold: true })
             }
+        }
+    }
+
+    Repeater {
+        model: barChart.crowded ? barChart.labels : []
+        VfText {
+            x: barChart.plot.x + (index + 0.5) * barChart.slot - width / 2
+            y: barChart.plot.y + barChart.plot.height + 8
+            font.pixelSize: Theme.smallSize
+            text: modelData
+            visible: index % Math.ceil(32 / barChart.slot) === 0
         }
     }
 

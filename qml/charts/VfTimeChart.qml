@@ -278,6 +278,7 @@ FocusScope {
     VfSpoken { active: timeChart.activeFocus; text: Texts.plain(hover.y_text) }
 
     MouseArea {
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
         anchors.fill: parent
         hoverEnabled: true
         onEntered: timeChart.pointAt(mouseX, mouseY)
@@ -285,6 +286,8 @@ FocusScope {
         onExited: if (!timeChart.activeFocus && !hover.holdOn) timeChart.forget()
         onClicked: {
             timeChart.forceActiveFocus()
+            if (mouse.button === Qt.RightButton)
+                return timeChart.forget()
             timeChart.pointAt(mouse.x, mouse.y)
             hover.holdOn = !hover.holdOn && timeChart.current >= 0
         }
