@@ -20,6 +20,10 @@ Window {
     /// The experiment that the page shows, and the keys of the boxes that cannot be on with it.
     property var experiment: null
     property var withheld: []
+    /// The keys of the boxes that can be on, but are off at first.
+    property var offAtFirst: []
+    property string notesTitle: qsTr("Notes")
+    property string notesLabel: qsTr("Show notes")
 
     readonly property var employee: ({ on: "emplInfoEnable", text: "emplName", label: qsTr("Employee"),
                                        example: qsTr("Joe Smith") })
@@ -65,7 +69,7 @@ Window {
     width: 850
     height: 550
     onVisibleChanged: {
-        values = ReportKeys.allOn(rows, values, withheld)
+        values = ReportKeys.allOn(rows, values, withheld.concat(offAtFirst))
         x = Screen.virtualX + Math.max(0, Screen.width - width) / 2
         y = Screen.virtualY + Math.max(0, Screen.height - height) / 2
     }
@@ -182,12 +186,12 @@ Window {
                     }
                 }
                 VfFrame {
-                    label: qsTr("Notes")
+                    label: window.notesTitle
                     Layout.fillHeight: true
                     Layout.fillWidth: true
                     VfObservation {
                         anchors.fill: parent
-                        label: qsTr("Show notes")
+                        label: window.notesLabel
                         checked: window.isOn(window.notes.on)
                         onToggled: window.set(window.notes.on, on)
                         onEdited: window.set(window.notes.text, text)

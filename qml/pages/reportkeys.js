@@ -31,11 +31,11 @@ function joined(parts, rowsOf) {
     return parts.reduce(function (rows, part) { return rows.concat(rowsOf(part)) }, [])
 }
 
-// values with every switch on but those withheld; the texts stay.
-function allOn(rows, values, withheld) {
+// values with every switch on but those that are off; the texts stay.
+function allOn(rows, values, off) {
     var next = {}
     rows.forEach(function (row) {
-        next[row.key] = row.kind === "text" ? values[row.key] || "" : withheld.indexOf(row.key) < 0
+        next[row.key] = row.kind === "text" ? values[row.key] || "" : off.indexOf(row.key) < 0
     })
     return next
 }

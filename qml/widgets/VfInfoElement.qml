@@ -9,6 +9,7 @@ Row {
     property string label
     property string value
     property real maximumWidth: 400
+    property color valueColor: Theme.text
 
     spacing: 6
     Accessible.role: Accessible.StaticText
@@ -17,6 +18,7 @@ Row {
     VfText { id: caption; text: element.label; color: Theme.quietText }
     VfElidedText {
         width: Math.min(implicitWidth, element.maximumWidth - caption.width - element.spacing)
+        color: element.valueColor
         font.bold: true
         whole: element.value
     }

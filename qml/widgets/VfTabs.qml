@@ -10,6 +10,13 @@ Item {
 
     default property alias pages: swipe.contentData     ///< each a VfTabPage
     readonly property alias currentTab: swipe.currentIndex
+    /// The pages whose tabs are there; those of one family keep their places, for a bar whose buttons change is not safe.
+    readonly property int presentCount: {
+        var count = 0
+        for (var i = 0; i < swipe.count; ++i)
+            count += swipe.itemAt(i).present ? 1 : 0
+        return count
+    }
 
     /// A page must show what is shown now; once for each page and renew().
     signal fill(var page)
@@ -18,6 +25,8 @@ Item {
 
     /// There is something new to show.
     function renew() {
+        if (swipe.currentItem && !swipe.currentItem.present)
+            setTab(0)
         for (var i = 0; i < swipe.count; ++i)
             swipe.itemAt(i).stale = true
         look()
@@ -39,7 +48,15 @@ Item {
         background: Rectangle { color: Theme.quietGround; border { width: 1; color: Theme.line } }
         spacing: 1
 
-        Repeater { id: buttons; VfTabButton { text: swipe.itemAt(index).title } }
+        Repeater {
+            id: buttons
+
+            VfTabButton {
+                text: swipe.itemAt(index).title
+                visible: swipe.itemAt(index).present
+                width: visible ? (bar.width - (tabs.presentCount - 1) * bar.spacing) / tabs.presentCount : 0
+            }
+        }
     }
 
     SwipeView {
@@ -49,6 +66,7 @@ Item {
         anchors { left: parent.left; right: parent.right; top: bar.bottom; bottom: parent.bottom; topMargin: Theme.gap }
         clip: true
         currentIndex: bar.currentIndex
+        interactive: tabs.presentCount === count // else it could be drawn to a page without a tab
         onCurrentIndexChanged: {
             bar.setCurrentIndex(currentIndex)
             tabs.look()

@@ -19,7 +19,7 @@ TextField {
     bottomPadding: 2
     Accessible.role: Accessible.EditableText
     background: Rectangle {
-        color: field.enabled ? Theme.ground : Theme.quietGround
+        color: field.enabled && !field.readOnly ? Theme.ground : Theme.quietGround
         border { width: field.activeFocus ? 2 : 1; color: field.activeFocus ? Theme.accent : Theme.fieldLine }
         radius: Theme.radius
     }
