@@ -28,6 +28,11 @@ VfFrame {
         return moment.toLocaleDateString(Qt.locale(), Locale.ShortFormat) + (clock ? Qt.formatTime(moment, " hh:mm") : "")
     }
 
+    /// A field check of a noise instrument with its date, which is empty without one.
+    function check(level, date, clock) {
+        return date ? Texts.numberText(level, root.numberToLocalString) + " (" + dayText(date, clock) + ")" : Texts.absent
+    }
+
     Row {
         spacing: 32
 

@@ -1,16 +1,10 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 import QtQuick 2.15
 import "../../qml/pages"
-import "../../qml/widgets/texts.js" as Texts
 
 /// The data of an experiment of a sound level meter; a family may put its weightings between.
 VfExpInfo {
     property var weightings: []
-
-    /// A field check with its date, which is empty without one.
-    function check(level, date) {
-        return date ? Texts.numberText(level, root.numberToLocalString) + " (" + dayText(date, true) + ")" : Texts.absent
-    }
 
     lines: [
         { label: qsTr("Event"), value: experiment.eventIndex },
@@ -21,7 +15,7 @@ VfExpInfo {
         { label: qsTr("Sample time") + " [s]", value: results.sampleTime }
     ].concat(weightings, [
         { label: qsTr("Octave analysis"), value: results.octaveAnalysis },
-        { label: qsTr("Pre check") + " [dB]", value: check(results.preChk, results.preChkDate) },
-        { label: qsTr("Pos check") + " [dB]", value: check(results.posChk, results.posChkDate) }
+        { label: qsTr("Pre check") + " [dB]", value: check(results.preChk, results.preChkDate, true) },
+        { label: qsTr("Pos check") + " [dB]", value: check(results.posChk, results.posChkDate, true) }
     ])
 }

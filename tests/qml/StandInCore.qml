@@ -62,6 +62,7 @@ QtObject {
     function generateReport(cfg) { return called("generateReport", cfg) }
     function refreshPartialResults(list) { called("refreshPartialResults", list) }
     function refreshWorkingHours(hours) { called("refreshWorkingHours", hours) }
+    function refreshGeneralData(data) { called("refreshGeneralData", data) }
     function acquireConfiguration() { return called("acquireConfiguration") }
     function sndConfiguration(cfg) { return called("sndConfiguration", cfg) }
     function acquireScheduleList() { return called("acquireScheduleList") }
