@@ -18,6 +18,7 @@ VfTimeChart {
     title: qsTr("Noise level x Time")
     valueTitle: qsTr("Noise level [dB]")
     valueSuffix: " dB"
+    scattered: true
     curve: Component {
         ScatterSeries { borderColor: "transparent"; markerShape: ScatterSeries.MarkerShapeRectangle; markerSize: 10 }
     }

@@ -27,8 +27,8 @@ Item {
     function show(parsed) {
         refresh(parsed)
         records.show(parsed.logList || [])
-        tabs.renew()
         tabs.setTab(1)
+        tabs.renew()
     }
 
     /// Shows other results of the same measurement.

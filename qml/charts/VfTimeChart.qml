@@ -18,6 +18,9 @@ FocusScope {
     property string valueSuffix
     /// How a curve is drawn: a LineSeries or a ScatterSeries.
     property Component curve: Component { LineSeries {} }
+    /// Whether the records stand for themselves: curve is then a ScatterSeries, with marks wider than cellSize pixels.
+    property bool scattered: false
+    readonly property int cellSize: 5
     /// What marks the points of a curve, a ScatterSeries, or null.
     property Component marks: null
     /// What the series of each curve are made with: a color, and whatever else the kind has.
@@ -81,10 +84,15 @@ FocusScope {
     function draw() {
         chart.removeAllSeries()
         drawnColumns = columnCount
-        drawn = values.map(function (curve) { return TimeChart.columns(times, curve, drawnColumns, from, to, sorted) })
+        drawn = values.map(function (curve) {
+            return scattered ? TimeChart.cells(times, curve, Math.ceil(plot.width / cellSize), Math.ceil(plot.height / cellSize),
+                                               from, to, valueAxis.min, valueAxis.max)
+                             : TimeChart.columns(times, curve, drawnColumns, from, to, sorted)
+        })
         drawn.forEach(function (points, k) {
             [curve, marks].filter(Boolean).forEach(function (kind) {
-                TimeChart.pieces(points).forEach(function (piece) {
+                var pieces = scattered ? [{ begin: 0, end: points.x.length }] : TimeChart.pieces(points)
+                pieces.forEach(function (piece) {
                     drawPiece(kind, points, piece, looks[k % looks.length])
                 })
             })

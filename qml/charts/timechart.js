@@ -110,6 +110,21 @@ function columns(xs, ys, count, from, to, sorted) {
     return drawn
 }
 
+// What to draw of records that stand for themselves: the first in each cell of a grid of columns and rows over the chart.
+// A NaN is left out.
+function cells(xs, ys, columns, rows, from, to, low, high) {
+    var drawn = { x: [], y: [] }, taken = {}
+    for (var i = 0; i < xs.length; ++i) {
+        var cell = Math.floor((xs[i] - from) / (to - from) * columns) * rows + Math.floor((ys[i] - low) / (high - low) * rows)
+        if (taken[cell] || ys[i] !== ys[i])
+            continue
+        taken[cell] = true
+        drawn.x.push(xs[i])
+        drawn.y.push(ys[i])
+    }
+    return drawn
+}
+
 // The parts in which the points of a curve are drawn, as {begin, end}, each beginning with the last point of the one
 // before. A series is slow to take its points, with the square of their number: a hundred at a time are quick. A curve
 // does not run back in time: where the clock was set back, a part begins of its own.

@@ -29,6 +29,8 @@ Item {
     VfText {
         id: caption
 
+        width: Math.min(implicitWidth, frame.width)
+        clip: implicitWidth > width
         text: frame.label
         color: Theme.quietText
         font { pixelSize: Theme.smallSize; bold: true }

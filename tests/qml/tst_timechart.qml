@@ -30,6 +30,12 @@ TestCase {
 
     function noise(i) { return (i * 7919) % 1009 }
 
+    function test_cells() {
+        var all = points(5000, function (i) { return i % 100 ? noise(i) : NaN })
+        var drawn = TimeChart.cells(all.x, all.y, 20, 10, 0, 5e6, 0, 1009)
+        compare([drawn.x.length, drawn.x[0], drawn.y[0]], [200, 1000, noise(1)])
+    }
+
     function test_columns_data() {
         return [
             { tag: "fewer than columns", count: 5, columns: 10, valueOf: noise, exact: true },
