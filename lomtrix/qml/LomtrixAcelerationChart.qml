@@ -20,6 +20,7 @@ VfTimeChart {
     valueTitle: qsTr("Acceleration") + " [" + Lomtrix.accelerationUnit + "]"
     valueSuffix: " " + Lomtrix.accelerationUnit
     curve: Component { ScatterSeries { borderColor: "transparent" } }
+    scattered: true
     looks: [marker("blue"), marker("red"), marker("green"), Object.assign(marker("black"), { color: "gray", opacity: 0.5 })]
 
     function marker(color) { return { color: color, brushFilename: ":/markers/" + color + "/mrk1.png", markerSize: 10 } }
