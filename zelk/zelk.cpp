@@ -6,6 +6,7 @@
 Device::Manners Zelk::manners()
 {
     Manners manners;
+    manners.writes = Match::End;
     manners.headersTellBusy = true;
     manners.closingRecordNeeded = true;
     return manners;
