@@ -10,13 +10,12 @@ const Fields<ZelkLog> &ZelkLog::fields()
     return rows;
 }
 
-// A value is known by its place alone: with a line lost or out of turn it would pass for that of another quantity.
 int ZelkLog::parse(const QByteArray &line)
 {
     const Pieces record = recordPieces(line);
-    if (record.size() < 6 || record[4].toInt() != m_lines++)
+    if (record.size() < 6)
         return 1;
-    if (m_lines == 1)
+    if (record[4].toInt() == 0)
         m_registerDate = wireMoment(record, 5);
     else
         m_physicalQuantitiesList.append(sharedText(wireText(record[5], Form::Plain)));

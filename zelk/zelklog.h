@@ -12,13 +12,11 @@ public:
     /// As sent, one for each quantity, in the order in which the results describe them.
     QStringList physicalQuantitiesList() const { return m_physicalQuantitiesList; }
 
-    /// Reads one line of the record: first that of the date, then those of the values in their order. 0, or 1 for a line
-    /// that is refused.
+    /// Reads one line of the record: that of the date, numbered 0, or the next value. 0, or 1 below 6 fields.
     [[nodiscard]] int parse(const QByteArray &line) override;
 
     static const Fields<ZelkLog> &fields();
 
 private:
     QStringList m_physicalQuantitiesList;
-    int m_lines = 0; ///< read so far
 };
