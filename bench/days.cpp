@@ -34,6 +34,7 @@ SimulatedExperiment everySecond(int records)
     SimulatedExperiment measured;
     measured.size = records;
     measured.interval = 1;
+    measured.type = "HVAC_AMB"; // of the logger: eight quantities
     return measured;
 }
 
