@@ -4,11 +4,14 @@
 #include "tests/app/pluggedcore.h"
 #include "tests/families/familycase.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QtTest>
 
+#include <cmath>
 #include <cstdio>
 
 namespace {
@@ -52,13 +55,31 @@ QByteArray unpluggedBehind(qint64 count, int family)
     return plugged.core.experiment().isEmpty() && plugged.found() + plugged.listed() == 0 ? "" : "something is left";
 }
 
-/// The experiments of the chain from the current one on, as the pages read them.
-QStringList members(Core &core)
+QJsonObject current(Core &core)
 {
-    QStringList texts{core.experiment()};
-    for (core.nextExp(); core.experiment() != texts.last(); core.nextExp())
-        texts.append(core.experiment());
-    return texts;
+    return QJsonDocument::fromJson(core.experiment().toUtf8()).object();
+}
+
+/// The experiments of the chain from the current one on, as the pages read them, but for what files do not give back.
+QVector<QJsonObject> members(Core &core)
+{
+    QVector<QJsonObject> members{current(core)};
+    for (core.nextExp(); current(core)["eventIndex"] != members.last()["eventIndex"]; core.nextExp())
+        members.append(current(core));
+    for (QJsonObject &member : members) {
+        member.remove("experimentType");
+        member.remove("experimentSubType");
+    }
+    return members;
+}
+
+/// The numbers that \a texts are.
+QVector<double> numbers(const QJsonValue &texts)
+{
+    QVector<double> numbers;
+    for (const QJsonValue &text : texts.toArray())
+        numbers.append(text.toString().toDouble());
+    return numbers;
 }
 
 /// Every `step`-th byte from `first` on, in a process of its own: each costs half a second of silence.
@@ -109,7 +130,7 @@ private slots:
         PluggedCore plugged(kind.make(workingDays()));
         QCOMPARE(plugged.begin(), 0);
         QCOMPARE(plugged.core.createExperiment("[0,2,3]"), 0);
-        QStringList downloaded = members(plugged.core);
+        const QVector<QJsonObject> downloaded = members(plugged.core);
         QCOMPARE(downloaded.size(), 3);
         const QString path = folder.filePath("chain") + kind.ending;
         QCOMPARE(plugged.core.saveExperimentToFile(path), 0);
@@ -124,6 +145,46 @@ private slots:
         const int count = points.size();
         qDeleteAll(points);
         QCOMPARE(count, kind.hasMeasuringPoints ? 3 : 0);
+    }
+
+    /// Values stand in the places that the module's own summary gives them, of sizes that do not divide by ten too.
+    void everySensor_data()
+    {
+        QTest::addColumn<SimulatedExperiment>("measured");
+        for (const SimulatedExperiment &measured : ::everySensor())
+            QTest::addRow("%s %s, %d", measured.type.data(), measured.subType.data(), measured.size) << measured;
+    }
+    void everySensor()
+    {
+        QFETCH(SimulatedExperiment, measured);
+        PluggedCore plugged(simulatedZelk(1, {measured}));
+        QCOMPARE(plugged.begin(), 0);
+        QCOMPARE(plugged.core.createExperiment("[0]"), 0);
+        const QJsonObject experiment = current(plugged.core);
+        const QJsonObject results = experiment["results"].toObject();
+        const QJsonArray logs = experiment["logList"].toArray();
+        QCOMPARE(logs.size(), measured.size);
+        QVector<double> most = numbers(logs[0].toObject()["physicalQuantitiesList"]);
+        QVector<double> least = most;
+        QVector<double> mean(most.size(), 0);
+        for (const QJsonValue &log : logs) {
+            const QVector<double> values = numbers(log.toObject()["physicalQuantitiesList"]);
+            QCOMPARE(values.size(), most.size());
+            for (int i = 0; i < values.size(); ++i) {
+                most[i] = qMax(most[i], values[i]);
+                least[i] = qMin(least[i], values[i]);
+                mean[i] += values[i] / logs.size();
+            }
+        }
+        QCOMPARE(results["quantitiesInfoList"].toArray().size(), most.size());
+        QCOMPARE(numbers(results["maxList"]), most);
+        QCOMPARE(numbers(results["minList"]), least);
+        const QVector<double> told = numbers(results["averageList"]);
+        QCOMPARE(told.size(), mean.size());
+        for (int i = 0; i < mean.size(); ++i)
+            QVERIFY(std::abs(told[i] - mean[i]) < 0.00501);
+        const QByteArray type = measured.type == "GAS" ? measured.subType : measured.type;
+        QCOMPARE(results["experimentType"].toString(), QString(type));
     }
 
     /// Each byte costs half a second: of sisters whose answers are alike the one with more of them.

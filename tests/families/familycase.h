@@ -29,6 +29,9 @@ constexpr Codes byTheEnd =               {-2,  -1,   -3,   -1,    -2,   0,      
 constexpr Codes refusalIsWhole =         {-2,  -1,   -3,   -3,    -3,   0,         0,         0};
 constexpr Codes answerIsWhole =          {-2,  -1,   -3,   -3,    -3,   -3,        0,         0};
 constexpr Codes allOrNothing =           {-1,  -1,   -1,   -1,    -1,   -1,        -1,        -1};
+constexpr Codes headerRead =             {-2,  -1,   -1,   -1,    -2,   -1,        -1,        -1};
+constexpr Codes calibrationRead =        {-2,  -1,   -1,   -1,    -2,   -1,        0,         -1};
+constexpr Codes calibrationWritten =     {-2,  -1,   -1,   -1,    -1,   -1,        0,         0};
 
 /// A command of a family's own, and how it is brought about.
 struct Exchange {
@@ -91,4 +94,5 @@ FamilyCase thalvex2Case();
 FamilyCase thalvex4Case();
 FamilyCase nembraCase();
 FamilyCase nembraPlusCase();
+FamilyCase zelkCase();
 FamilyCase ardel2Case();

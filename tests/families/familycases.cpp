@@ -10,6 +10,7 @@ const QVector<FamilyCase> &familyCases()
         thalvex4Case(),
         nembraCase(),
         nembraPlusCase(),
+        zelkCase(),
     };
     return cases;
 }

@@ -14,9 +14,6 @@
 namespace {
 
 //                                busy error none  error, busy, OK at end, wrong tag, short record
-constexpr Codes allIsWhole =      {-2,  -1,   -1,   -1,    -1,   -1,        0,         0};
-constexpr Codes calibrationRead = {-2,  -1,   -1,   -1,    -2,   -1,        0,         -1};
-constexpr Codes closingRecord =   {-2,  -1,   -1,   -1,    -2,   -1,        -1,        -1};
 constexpr Codes twoLines =        {-1,  -1,   -1,   -1,    -1,   0,         -1,        0}; // two lines are two
 constexpr Codes identification =  {1,   1,    1,    1,     1,    0,         0,         0};
 
@@ -36,7 +33,7 @@ QVector<Exchange> sharedExchanges()
         {"clock", "AT+CCLK=\"19/10/09,09:37:01-12\"\r\n", byTheEnd,
          [](Device &d) { return d.setClock(when); }},
         {"erase", "AT+VFERSMM\r\n", byTheEnd, [](Device &d) { return d.eraseMemory(); }},
-        {"set calibration", "AT+VFCTF=\"19/10/09,09:37:01-12\",\"CAL \xC7/7\"\r\n", allIsWhole,
+        {"set calibration", "AT+VFCTF=\"19/10/09,09:37:01-12\",\"CAL \xC7/7\"\r\n", calibrationWritten,
          [](Device &d) {
              const Calibration calibration{when, "cal ç/7"};
              return d.sndCalibration(&calibration);
@@ -63,7 +60,7 @@ QVector<Exchange> sharedExchanges()
              const std::unique_ptr<Results> results(d.acquireResults(experiment.get()));
              return results ? 0 : -1;
          }},
-        {"closing record", "AT+VFXPHDR=8,1\r\n", closingRecord,
+        {"closing record", "AT+VFXPHDR=8,1\r\n", headerRead,
          [](Device &d) {
              const std::unique_ptr<Results> results(FactoryResults::create(d.productName()));
              return d.finishHeaderRead(results.get(), 1);

@@ -77,6 +77,7 @@ private slots:
         QTest::newRow("three, with 3, 0 and 1 expansions") << "three.tv4" << 3;
         QTest::newRow("three, with octaves, thirds and none") << "three.nbr" << 3;
         QTest::newRow("three, the second with records of their own length, the third overloaded") << "three.nbp" << 3;
+        QTest::newRow("three, of one, two and eight quantities") << "three.zlk" << 3;
     }
     /// What was written once by another program is read whole, and written again byte by byte.
     void storedExamples()
