@@ -36,6 +36,7 @@ Rectangle {
     readonly property var families: ({
         "THALVEX 2": thalvex2,
         "THALVEX 4": thalvex4,
+        "ARDEL 2": ardel2,
         "NEMBRA": nembra,
         "NEMBRA+": nembraPlus,
         "LOMTRIX": lomtrix,
@@ -70,6 +71,8 @@ Rectangle {
         PageState { name: "Thalvex2ResultsState"; page: thalvex2.results },
         PageState { name: "Thalvex4State"; page: thalvex4.page },
         PageState { name: "Thalvex4ResultsState"; page: thalvex4.results },
+        PageState { name: "Ardel2State"; page: ardel2.page },
+        PageState { name: "ArdelResultsState"; page: ardel2.results },
         PageState { name: "NembraState"; page: nembra.page },
         PageState { name: "NembraResultsState"; page: nembra.results },
         PageState { name: "NembraPlusState"; page: nembraPlus.page },
@@ -112,6 +115,14 @@ Rectangle {
         PageHome { id: pageHome; anchors.fill: parent }
         FamilyPages { id: thalvex2; product: "THALVEX 2"; name: "Thalvex2" }
         FamilyPages { id: thalvex4; product: "THALVEX 4"; name: "Thalvex4" }
+        FamilyPages {
+            id: ardel2
+
+            product: "ARDEL 2"
+            name: "Ardel2"
+            folder: "ardel"
+            resultsState: "ArdelResultsState"
+        }
         FamilyPages { id: nembra; product: "NEMBRA"; name: "Nembra" }
         FamilyPages { id: nembraPlus; product: "NEMBRA+"; name: "NembraPlus"; entered: nembra.page } // meant
         FamilyPages { id: lomtrix; product: "LOMTRIX"; name: "Lomtrix"; asksExposure: true }

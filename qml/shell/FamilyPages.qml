@@ -9,7 +9,9 @@ Item {
     property string product
     /// The family's name in its files and states: "Thalvex2" has PageThalvex2.qml and the state Thalvex2State.
     property string name
-    readonly property string source: "../../" + name.toLowerCase() + "/qml/Page" + name
+    property string folder: name.toLowerCase()
+    property string resultsState: name + "ResultsState"
+    readonly property string source: "../../" + folder + "/qml/Page" + name
     /// Whether times of exposure are asked for between an experiment and its results.
     property bool asksExposure: false
     readonly property Item page: pageLoader.item
@@ -62,7 +64,7 @@ Item {
     }
     Connections {
         target: family.results
-        function onShowResults() { root.enter(family.results, family.name + "ResultsState") }
+        function onShowResults() { root.enter(family.results, family.resultsState) }
     }
     Connections {
         target: family.exposure

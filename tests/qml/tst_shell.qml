@@ -91,6 +91,7 @@ Item {
         function test_openDevice_data() {
             return [{ tag: "THALVEX 2", page: "Thalvex 2", state: "Thalvex2State" },
                     { tag: "THALVEX 4", page: "Thalvex 4", state: "Thalvex4State" },
+                    { tag: "ARDEL 2", page: "Ardel 2", state: "Ardel2State" },
                     { tag: "NEMBRA", page: "Nembra", state: "NembraState" },
                     { tag: "NEMBRA+", page: "Nembra+", state: "NembraPlusState" },
                     { tag: "LOMTRIX", page: "Lomtrix", state: "LomtrixState" },
