@@ -40,11 +40,10 @@ const Fields<LomtrixResults> &LomtrixResults::fields()
             {"evaluationType", 1, 17, &R::m_evaluationType, Form::Dashed},
             {"profile", 1, 18, &R::m_profile},
             {"arep", 2, 2, &R::m_arep, Form::Dashed},
-            {"numFreq", NotOnWire, 0, &R::m_numFreq},
-            {"amrList", NotOnWire, 0, listOf(&R::m_amrList)},
             {"sensorLabel", 5, 2, &R::m_sensorLabel, Form::Dashed},
             {"sensorSN", 5, 3, &R::m_sensorSN, Form::Dashed},
         },
+        partRows(&R::m_spectrum, {}),
         partRows(&R::m_x, "X"), // on the wire the axes stand side by side
         partRows(&R::m_y, "Y", 1),
         partRows(&R::m_z, "Z", 2),
@@ -76,20 +75,11 @@ int LomtrixResults::parseHeader1(const QByteArray &answer)
     return 0;
 }
 
-int LomtrixResults::parseHeader4(const QByteArray &answer)
-{
-    const auto bands = readLines<AmrPerOctave>(4, answer, 6, ForeignLine::EndsTheWalk);
-    m_numFreq = bands.count;
-    m_amrList = bands.parts;
-    return bands.isComplete() ? 0 : -1;
-}
-
 QJsonObject LomtrixResults::toJson() const
 {
     QJsonObject object = ResultsOf::toJson();
     const VibrationExposure::Day &day = s_evaluation.day;
     const std::pair<const char *, QJsonValue> computed[] = {
-        {"durationStr", clockText(m_duration.toInt())},
         {"exposureTime", m_exposureTime},
         {"vdvXexpi", m_x.vdvExposed},
         {"vdvYexpi", m_y.vdvExposed},

@@ -34,7 +34,7 @@ struct VibrationEvaluation {
 /// The summary of one measurement. The instrument computes it and the suite adds, from the exposure times that the user
 /// gives the measurements, the evaluation of the day. There is one evaluation at a time, which all results share; it
 /// begins anew with each results object that is made, that is, with a download or a file.
-class LomtrixResults : public ResultsOf<LomtrixResults>
+class LomtrixResults : public ResultsOf<LomtrixResults, SecondsResults>
 {
     Q_OBJECT
 
@@ -55,7 +55,7 @@ public:
     const VibrationAxis &y() const { return m_y; }
     const VibrationAxis &z() const { return m_z; }
     /// Low to high.
-    const QVector<AmrPerOctave> &amrList() const { return m_amrList; }
+    const QVector<AmrPerOctave> &amrList() const { return m_spectrum.bands; }
     QString sensorLabel() const { return m_sensorLabel; }
     QString sensorSN() const { return m_sensorSN; }
     /// How long a day the measured task is done, "hh:mm"; empty until the user says so.
@@ -72,7 +72,10 @@ public:
     /// Statistics of the acceleration: at least 17 fields.
     [[nodiscard]] int parseHeader3(const QByteArray &answer) { return readHeader(3, answer, 17); }
     /// Bands, one in each line: as many as the last line tells of.
-    [[nodiscard]] int parseHeader4(const QByteArray &answer);
+    [[nodiscard]] int parseHeader4(const QByteArray &answer)
+    {
+        return m_spectrum.parse(4, answer, ForeignLine::EndsTheWalk);
+    }
     /// Sensor: at least 7 fields.
     [[nodiscard]] int parseHeader5(const QByteArray &answer) { return readHeader(5, answer, 7); }
 
@@ -102,8 +105,7 @@ private:
     VibrationAxis m_x;
     VibrationAxis m_y;
     VibrationAxis m_z;
-    QString m_numFreq;
-    QVector<AmrPerOctave> m_amrList;
+    AmrSpectrum m_spectrum;
     QString m_sensorLabel;
     QString m_sensorSN;
     QString m_exposureTime;

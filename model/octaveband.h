@@ -22,6 +22,7 @@ struct OctaveBand {
 
 /// A band of sound.
 struct LeqPerOctave : OctaveBand {
+    static constexpr char ListKey[] = "leqList";
     QString leq() const { return value; }
     static const Fields<LeqPerOctave> &fields()
     {
@@ -30,32 +31,9 @@ struct LeqPerOctave : OctaveBand {
     }
 };
 
-/// All bands of a measurement, low to high.
-struct LeqSpectrum {
-    QString count; ///< as the instrument tells it; empty when it tells of none
-    QVector<LeqPerOctave> bands;
-
-    static const Fields<LeqSpectrum> &fields()
-    {
-        static const Fields<LeqSpectrum> table = {
-            {"numFreq", NotOnWire, 0, &LeqSpectrum::count},
-            {"leqList", NotOnWire, 0, listOf(&LeqSpectrum::bands)},
-        };
-        return table;
-    }
-
-    /// Reads header \a number, a line for each band: 0, or -1 unless they are as many as it tells of.
-    [[nodiscard]] int parse(int number, const QByteArray &answer, ForeignLine foreign)
-    {
-        const auto lines = readLines<LeqPerOctave>(number, answer, 6, foreign);
-        count = lines.count;
-        bands = lines.parts;
-        return lines.isComplete() ? 0 : -1;
-    }
-};
-
 /// A band of vibration.
 struct AmrPerOctave : OctaveBand {
+    static constexpr char ListKey[] = "amrList";
     QString amr() const { return value; }
     static const Fields<AmrPerOctave> &fields()
     {
@@ -63,3 +41,29 @@ struct AmrPerOctave : OctaveBand {
         return table;
     }
 };
+
+/// All bands of a measurement, low to high.
+template <class Band> struct SpectrumOf {
+    QString count; ///< as the instrument tells it; empty when it tells of none
+    QVector<Band> bands;
+
+    static const Fields<SpectrumOf> &fields()
+    {
+        static const Fields<SpectrumOf> table = {
+            {"numFreq", NotOnWire, 0, &SpectrumOf::count},
+            {Band::ListKey, NotOnWire, 0, listOf(&SpectrumOf::bands)},
+        };
+        return table;
+    }
+
+    /// Reads header \a number, a line for each band: 0, or -1 unless they are as many as it tells of.
+    [[nodiscard]] int parse(int number, const QByteArray &answer, ForeignLine foreign)
+    {
+        const auto lines = readLines<Band>(number, answer, 6, foreign);
+        count = lines.count;
+        bands = lines.parts;
+        return lines.isComplete() ? 0 : -1;
+    }
+};
+using LeqSpectrum = SpectrumOf<LeqPerOctave>;
+using AmrSpectrum = SpectrumOf<AmrPerOctave>;

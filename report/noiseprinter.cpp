@@ -5,6 +5,7 @@
 #include "model/log.h"
 #include "report/barchart.h"
 #include "report/dates.h"
+#include "report/texts.h"
 #include "report/timechart.h"
 
 namespace {
@@ -26,18 +27,12 @@ NoisePrinter::NoisePrinter(const QString &title)
 ReportParameters NoisePrinter::noiseParameters(const char *preCheckKey, const char *posCheckKey)
 {
     return {
-        {"emplInfoEnable", &m_emplInfoEnable}, {"emplName", &m_emplName},
         {"ckbChartLvl", &m_ckbChartLvl},       {"ckbLeqZ", &m_ckbLeqZ},
         {"ckbLeqA", &m_ckbLeqA},               {"ckbLeqC", &m_ckbLeqC},
         {preCheckKey, &m_ckbPreCheck},         {posCheckKey, &m_ckbPosCheck},
         {"ckbCalLab", &m_ckbCalLab},           {"ckbCalAudLab", &m_ckbCalAudLab},
         {"audCertified", &m_audCertified},     {"ckbCalField", &m_ckbCalField},
     };
-}
-
-QString NoisePrinter::captionedText(const QString &caption, const QString &value)
-{
-    return caption + QLatin1String(": ") + value;
 }
 
 QString NoisePrinter::timeWeightingText(const QString &weighting)

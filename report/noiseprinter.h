@@ -18,8 +18,6 @@ protected:
     /// The shared switches; those of the field checks have other keys in each family.
     ReportParameters noiseParameters(const char *preCheckKey, const char *posCheckKey);
 
-    /// "Caption: value".
-    static QString captionedText(const QString &caption, const QString &value);
     /// "Slow", "Fast" or "Impulse" in the user's language.
     static QString timeWeightingText(const QString &weighting);
     /// The instrument's certificate and its date, or "invalid".
@@ -47,8 +45,6 @@ protected:
     };
     void drawOctaveChart(const OctaveChart &looks);
 
-    bool m_emplInfoEnable = false;
-    QString m_emplName;
     bool m_ckbPreCheck = false;
     bool m_ckbPosCheck = false;
     bool m_ckbCalLab = false;

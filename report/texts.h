@@ -11,6 +11,11 @@ inline QString shortened(const QString &text, int most)
     return text.size() > most ? text.left(most - 1) + QChar(0x2026) : text;
 }
 
+inline QString captionedText(const QString &caption, const QString &value)
+{
+    return caption + QLatin1String(": ") + value;
+}
+
 /// \a text, "---" for none.
 inline QString dashed(const QString &text)
 {

@@ -9,6 +9,7 @@
 #include <QChart>
 #include <QLegendMarker>
 #include <QLineSeries>
+#include <QScatterSeries>
 #include <QSplineSeries>
 
 #include <algorithm>
@@ -23,6 +24,7 @@ constexpr int reportWidth = 600;   ///< pixels
 constexpr int mostTimes = 7;       ///< labels that find room across them
 constexpr int besideThePlot = 85;  ///< pixels of a chart's height for titles and labels
 constexpr int heightOfAValue = 19; ///< pixels
+constexpr int markerSize = 10;     ///< pixels
 
 /// Lines below one another, in the middle.
 QString label(const Tick &tick)
@@ -54,7 +56,7 @@ QCategoryAxis *axisOf(const QVector<Tick> &ticks, double lowest, double highest)
 
 } // namespace
 
-void TimeChart::addCurve(const QString &name, const QVector<QPointF> &points)
+void TimeChart::addCurve(const QString &name, const QVector<QPointF> &points, const Marker &marker)
 {
     for (const QPointF &point : points) {
         m_lowest = std::min(m_lowest, point.y());
@@ -62,7 +64,7 @@ void TimeChart::addCurve(const QString &name, const QVector<QPointF> &points)
         m_begin = std::min(m_begin, point.x());
         m_end = std::max(m_end, point.x());
     }
-    m_curves.append({name, SmoothCurve::pieces(reduced(points, m_columns))});
+    m_curves.append({name, SmoothCurve::pieces(reduced(points, m_columns)), marker});
 }
 
 QVector<QPointF> TimeChart::reduced(const QVector<QPointF> &points, int columns)
@@ -124,6 +126,23 @@ void TimeChart::addCurves(QChart *chart) const
     }
 }
 
+void TimeChart::addMarkers(QChart *chart) const
+{
+    for (const Curve &curve : m_curves) {
+        auto *series = new QScatterSeries;
+        series->setName(curve.name);
+        series->setMarkerShape(QScatterSeries::MarkerShapeRectangle);
+        series->setMarkerSize(markerSize);
+        for (const QVector<QPointF> &piece : curve.pieces)
+            series->append(piece.toList());
+        chart->addSeries(series); // gives it a theme's colours, which the marker's replace
+        QBrush brush(QImage(curve.marker.picture));
+        brush.setColor(curve.marker.colour);
+        series->setBrush(brush);
+        series->setPen(QPen(Qt::transparent));
+    }
+}
+
 std::pair<double, double> TimeChart::valueRange() const
 {
     const auto [lowest, highest] = std::minmax({std::min(m_lowest, m_look.searched), std::max(m_highest, -m_look.searched)});
@@ -150,7 +169,10 @@ void TimeChart::addAxes(const ChartScene &scene, const QSizeF &size) const
 int TimeChart::draw(QPainter *painter, int x, int y, const QSizeF &size, qreal scale) const
 {
     ChartScene scene(size, scale, m_title, m_font);
-    addCurves(scene.chart());
+    if (m_look.curves == Curves::Markers)
+        addMarkers(scene.chart());
+    else
+        addCurves(scene.chart());
     scene.chart()->legend()->setFont(m_font);
     scene.chart()->legend()->setVisible(m_look.legend);
     addAxes(scene, size);

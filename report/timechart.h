@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
+#include <QColor>
 #include <QFont>
 #include <QPointF>
 #include <QSizeF>
@@ -20,7 +21,7 @@ class QChart;
 class TimeChart
 {
 public:
-    enum class Curves { Smooth, Lines };
+    enum class Curves { Smooth, Lines, Markers };
     /// What the axis of values holds beyond the lowest and the highest: one, or a tenth of each.
     enum class Beyond { One, Tenth };
     struct Look {
@@ -29,6 +30,12 @@ public:
         bool legend = true;
         /// The lowest value is searched from here on, the highest from the opposite.
         double searched = 200;
+    };
+
+    /// What stands at each point where curves are markers.
+    struct Marker {
+        QString picture; ///< file of 10 x 10 pixels
+        QColor colour;   ///< without the picture
     };
 
     explicit TimeChart(const QFont &font) : m_font(font) {}
@@ -44,7 +51,7 @@ public:
     void setColumns(int columns) { m_columns = columns; }
     /// Adds a curve of \a points (ms since the epoch, value) in the order in which they were taken. \a name may hold
     /// "<sub>". Where the clock was set back, the curve begins anew. A single point is a dot.
-    void addCurve(const QString &name, const QVector<QPointF> &points);
+    void addCurve(const QString &name, const QVector<QPointF> &points, const Marker &marker = {});
 
     /// Draws the chart, \a size wide and high, with its corner at (\a x, \a y) of the window. Returns its height.
     int draw(QPainter *painter, int x, int y, const QSizeF &size, qreal scale) const;
@@ -58,8 +65,10 @@ private:
     struct Curve {
         QString name;
         QVector<QVector<QPointF>> pieces;
+        Marker marker;
     };
     void addCurves(QtCharts::QChart *chart) const;
+    void addMarkers(QtCharts::QChart *chart) const;
     void addAxes(const ChartScene &scene, const QSizeF &size) const;
     /// What the axis of values holds.
     std::pair<double, double> valueRange() const;

@@ -10,7 +10,6 @@
 #include "report/rulepen.h"
 #include "report/texts.h"
 #include "report/vffullpagetable.h"
-#include "report/vfsubsuperscript.h"
 
 #include <QDesktopServices>
 #include <QFile>
@@ -178,6 +177,7 @@ void VfPrinter::readParameters(const QString &json, const ReportParameters &para
             {"repName", &m_repName},
             {"cmpnyName", &m_cmpnyName},
             {"siteName", &m_siteName},
+            {"emplName", &m_emplName},
             {"ckbTable", &m_tableEnable},
             {"ownCompanyInfoEnable", &m_ownCompanyInfoEnable},
             {"collectorInfoEnable", &m_collectorInfoEnable},
@@ -185,6 +185,7 @@ void VfPrinter::readParameters(const QString &json, const ReportParameters &para
             {"repInfoEnable", &m_repInfoEnable},
             {"cmpnyInfoEnable", &m_cmpnyInfoEnable},
             {"siteInfoEnable", &m_siteInfoEnable},
+            {"emplInfoEnable", &m_emplInfoEnable},
             {"logoEnable", &m_logoEnable},
             {"logoFile", &m_logoFile},
             {"obsEnable", &m_obsEnable},
@@ -395,6 +396,33 @@ void VfPrinter::drawColumns(const QStringList &texts, int count)
     m_y += highest;
 }
 
+void VfPrinter::drawGrid(const QStringList &texts, int count)
+{
+    QStringList lines = texts;
+    for (QString &text : lines)
+        text = text.simplified(); // of texts of many lines the box would run below the foot
+    for (int first = 0; first < lines.size(); first += count)
+        drawColumns(lines.mid(first, count), count);
+}
+
+void VfPrinter::drawIndexed(const QVector<IndexedLines> &columns)
+{
+    const int step = (windowWidth() - 2 * m_hSpace) / qMax(columns.size(), 1);
+    int bottom = m_y;
+    for (int column = 0; column < columns.size(); ++column) {
+        int y = m_y;
+        for (const VfSubSuperScript::Line &pieces : columns[column]) {
+            const std::unique_ptr<VfSubSuperScript> line(VfSubSuperScript::ofLine(pieces));
+            for (VfSubSuperScript *piece = line.get(); piece; piece = piece->next())
+                piece->setFont(m_textFont);
+            line->draw(m_hSpace + column * step, y, m_painter.get());
+            y += line->height(m_painter.get()) + 2 * m_vSpace;
+        }
+        bottom = qMax(bottom, y);
+    }
+    m_y = bottom + m_vSpace; // indexes hang below their lines
+}
+
 int VfPrinter::drawText(const QString &text, int x, int y, const QRect &bounds)
 {
     moveTo(x, y);
@@ -442,9 +470,14 @@ QString VfPrinter::localTime(const QDateTime &moment)
     return moment.toLocalTime().toString(QStringLiteral("hh:mm:ss"));
 }
 
+QString VfPrinter::timeOfDay(const QString &seconds)
+{
+    return QTime(0, 0).addSecs(seconds.toInt()).toString(QStringLiteral("hh:mm:ss"));
+}
+
 QStringList VfPrinter::captioned(bool on, const QString &caption, const QString &value)
 {
-    return on ? QStringList{caption + QLatin1String(": ") + value} : QStringList();
+    return on ? QStringList{captionedText(caption, value)} : QStringList();
 }
 
 void VfPrinter::drawIdentification()

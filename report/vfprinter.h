@@ -3,6 +3,7 @@
 
 #include "model/calibration.h"
 #include "report/parameters.h"
+#include "report/vfsubsuperscript.h"
 
 #include <QFont>
 #include <QImage>
@@ -15,7 +16,6 @@
 
 class Experiment;
 class Log;
-class VfSubSuperScript;
 class VfTable;
 class VfTableRow;
 
@@ -128,6 +128,11 @@ protected:
     void drawTwoColumns(const QStringList &left, const QStringList &right);
     /// Texts side by side in \a count columns of the same width, from the left.
     void drawColumns(const QStringList &texts, int count);
+    /// The texts in rows of \a count columns, each text in as few lines as it needs.
+    void drawGrid(const QStringList &texts, int count);
+    /// Columns of the same width, in each of which its lines stand one below the other.
+    using IndexedLines = QVector<VfSubSuperScript::Line>;
+    void drawIndexed(const QVector<IndexedLines> &columns);
     /// Draws \a text at (\a x, \a y), wrapped in the width of \a bounds; an absurdly long one is cut. Returns its
     /// height.
     int drawText(const QString &text, int x, int y, const QRect &bounds);
@@ -156,6 +161,8 @@ protected:
     void drawIdentification(const QStringList &left, const QStringList &right);
     /// "hh:mm:ss"
     static QString localTime(const QDateTime &moment);
+    /// Whole seconds as "hh:mm:ss" of a clock: what is longer than a day begins anew.
+    static QString timeOfDay(const QString &seconds);
     /// "Caption: value", or nothing when it is not switched on.
     static QStringList captioned(bool on, const QString &caption, const QString &value);
     /// "Cal. cert.: " with certificate and date of \a calibration.
@@ -200,6 +207,7 @@ protected:
     bool m_cmpnyInfoEnable = false;
     bool m_siteInfoEnable = false;
     bool m_collectorInfoEnable = false;
+    bool m_emplInfoEnable = false;
     bool m_repInfoEnable = false;
     bool m_repIdInfoEnable = false;
     bool m_logoEnable = false;
@@ -210,6 +218,7 @@ protected:
     QString m_ownCompany;
     QString m_cmpnyName;
     QString m_siteName;
+    QString m_emplName;
     QString m_collectorName = QStringLiteral("John Joe");
     QString m_repName = QStringLiteral("Jane Joe");
     QString m_repIdReg = QStringLiteral("RS12345678");

@@ -24,6 +24,21 @@ VfSubSuperScript::VfSubSuperScript(const QString &text, const QString &subscript
     m_next = next;
 }
 
+VfSubSuperScript *VfSubSuperScript::ofLine(const Line &line)
+{
+    const auto make = [](const Piece &piece) {
+        return new VfSubSuperScript(piece.text, piece.subscript, piece.superscript);
+    };
+    VfSubSuperScript *const first = make(line.first());
+    VfSubSuperScript *last = first;
+    for (const Piece &piece : line.mid(1)) {
+        last->m_next = make(piece);
+        last = last->m_next;
+        last->setParent(first);
+    }
+    return first;
+}
+
 void VfSubSuperScript::setText(const QString &text)
 {
     m_text = shortened(text, longestPiece);

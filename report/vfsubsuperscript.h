@@ -5,6 +5,7 @@
 
 #include <QColor>
 #include <QObject>
+#include <QVector>
 
 #include <optional>
 
@@ -23,6 +24,15 @@ public:
     /// \a next is drawn to the right of this piece; it may be shared by several and is not owned.
     VfSubSuperScript(const QString &text, const QString &subscript, const QString &superscript,
                      VfSubSuperScript *next = nullptr);
+
+    struct Piece {
+        QString text;
+        QString subscript = {};
+        QString superscript = {};
+    };
+    using Line = QVector<Piece>;
+    /// A line of the pieces in \a line, one at least. The first piece owns the others; the caller owns it.
+    static VfSubSuperScript *ofLine(const Line &line);
 
     QString text() const { return m_text; }
     void setText(const QString &text);

@@ -6,11 +6,8 @@
 #include "report/texts.h"
 #include "report/values.h"
 #include "report/vfheadedtable.h"
-#include "report/vfsubsuperscript.h"
 #include "soundlevel/soundlevellog.h"
 #include "soundlevel/soundlevelresults.h"
-
-#include <QTime>
 
 namespace {
 
@@ -21,20 +18,6 @@ QString letter(OctaveBands::Weighting curve)
 {
     return curve == OctaveBands::Weighting::Z ? QStringLiteral("Z")
            : curve == OctaveBands::Weighting::C ? QStringLiteral("C") : QStringLiteral("A");
-}
-
-/// A head of a table with the unit behind it, which the head owns.
-VfSubSuperScript *head(const QString &symbol, const QString &subscript, const QString &superscript, const QString &unit)
-{
-    auto *tail = new VfSubSuperScript(unit, {}, {});
-    auto *item = new VfSubSuperScript(symbol, subscript, superscript, tail);
-    tail->setParent(item);
-    return item;
-}
-
-VfSubSuperScript *head(const QString &text)
-{
-    return new VfSubSuperScript(text, {}, {});
 }
 
 std::optional<double> levelOf(const Log &log)
@@ -100,10 +83,11 @@ void SoundLevelPrinter::drawPoints()
             cells.append(levelText(level.value));
         rows.append(new VfTableRow(cells, {}));
     }
-    QList<VfSubSuperScript *> heads{head(tr("Event")), head(tr("Name"))};
+    QList<VfSubSuperScript *> heads{VfSubSuperScript::ofLine({{tr("Event")}}), VfSubSuperScript::ofLine({{tr("Name")}})};
     const Levels levels = pointLevels(resultsOf(*m_experiment));
     for (const Level &level : levels)
-        heads.append(head(level.symbol, level.subscript, level.superscript, QStringLiteral(" [dB]")));
+        heads.append(VfSubSuperScript::ofLine(
+            {{level.symbol, level.subscript, level.superscript}, {QStringLiteral(" [dB]")}}));
     VfHeadedTable table(m_painter.get());
     table.setRows(rows);
     table.setHeader(heads);
@@ -146,7 +130,6 @@ std::vector<PartedPrinter::Part> SoundLevelPrinter::parts()
 
 void SoundLevelPrinter::drawConfiguration(const Experiment &experiment)
 {
-    constexpr int columns = 3;
     const SoundLevelResults &results = resultsOf(experiment);
     QStringList texts{
         captionedText(tr("Event"), QString::number(experiment.ordinal())),
@@ -155,18 +138,12 @@ void SoundLevelPrinter::drawConfiguration(const Experiment &experiment)
         captionedText(tr("Sample time [s]"), results.sampleTime()),
         captionedText(tr("Start time"), localTime(results.startTime())),
         captionedText(tr("Stop time"), localTime(results.stopTime())),
-        // as a time of day: what is longer than a day begins anew
-        captionedText(tr("Duration"), QTime(0, 0).addSecs(results.duration().toInt()).toString(QStringLiteral("hh:mm:ss"))),
+        captionedText(tr("Duration"), timeOfDay(results.duration())),
         captionedText(tr("Pause time"), results.pauseTime()),
     };
     texts += configurationTexts(results);
     texts.append(captionedText(tr("Octave analysis"), results.octaveAnalysis()));
-    for (QString &text : texts)
-        text = text.simplified(); // of texts of many lines the box would run below the foot
-    wholeSection(tr("Configuration"), [&] {
-        for (int first = 0; first < texts.size(); first += columns)
-            drawColumns(texts.mid(first, columns), columns);
-    });
+    wholeSection(tr("Configuration"), [&] { drawGrid(texts, 3); });
 }
 
 void SoundLevelPrinter::drawFieldChecks(const Experiment &experiment)
@@ -193,22 +170,14 @@ void SoundLevelPrinter::drawFieldChecks(const Experiment &experiment)
 
 void SoundLevelPrinter::drawLevels(const QVector<Levels> &columns)
 {
-    const int step = (windowWidth() - 2 * m_hSpace) / qMax(columns.size(), 1);
-    const int top = m_y;
-    int bottom = top;
-    for (int column = 0; column < columns.size(); ++column) {
-        int y = top;
-        for (const Level &level : columns[column]) {
-            VfSubSuperScript tail(QLatin1String(" [dB]: ") + level.value, {}, {});
-            VfSubSuperScript symbol(level.symbol, level.subscript, level.superscript, &tail);
-            symbol.setFont(m_textFont);
-            tail.setFont(m_textFont);
-            symbol.draw(m_hSpace + column * step, y, m_painter.get());
-            y += symbol.height(m_painter.get()) + 2 * m_vSpace;
-        }
-        bottom = qMax(bottom, y);
+    QVector<IndexedLines> lines;
+    for (const Levels &levels : columns) {
+        IndexedLines column;
+        for (const Level &level : levels)
+            column.append({{level.symbol, level.subscript, level.superscript}, {QLatin1String(" [dB]: ") + level.value}});
+        lines.append(column);
     }
-    m_y = bottom + m_vSpace; // indexes hang below their lines
+    drawIndexed(lines);
 }
 
 // ---------------------------------------------------------------- charts
@@ -247,10 +216,11 @@ QString SoundLevelPrinter::interval(const SoundLevelResults &results) const
 QList<VfSubSuperScript *> SoundLevelPrinter::logTableHeader(Experiment *experiment)
 {
     QList<VfSubSuperScript *> heads{
-        head(tr("Idx")), head(tr("D/T")),
-        head(QStringLiteral("L"), QLatin1String("eq,") + interval(resultsOf(*experiment)), {}, QStringLiteral("[dB]"))};
+        VfSubSuperScript::ofLine({{tr("Idx")}}), VfSubSuperScript::ofLine({{tr("D/T")}}),
+        VfSubSuperScript::ofLine({{QStringLiteral("L"), QLatin1String("eq,") + interval(resultsOf(*experiment))},
+                                  {QStringLiteral("[dB]")}})};
     for (const FurtherColumn &column : furtherColumns(*experiment))
-        heads.append(head(column.head, {}, {}, column.unit));
+        heads.append(VfSubSuperScript::ofLine({{column.head}, {column.unit}}));
     return heads;
 }
 

@@ -5,7 +5,6 @@
 
 class Log;
 class SoundLevelResults;
-class VfSubSuperScript;
 
 /// What the reports of the sound level meters share: a front page with all measuring points, and for each experiment its
 /// configuration, field checks, figures, charts and records. A family says which figures it has.

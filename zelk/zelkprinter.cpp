@@ -30,9 +30,9 @@ QString tidy(const QString &text)
     return shortened(text.simplified(), LongestText);
 }
 
-QString captionedText(const QString &caption, const QString &value)
+QString tidyLine(const QString &caption, const QString &value)
 {
-    return caption + QLatin1String(": ") + tidy(value);
+    return captionedText(caption, tidy(value));
 }
 
 /// The unit of a quantity behind its name, if it has one, with \a gap between.
@@ -67,9 +67,9 @@ QString valueText(const QString &value)
 QString itemText(const ZelkExpData &item)
 {
     if (item.type == QLatin1String("s"))
-        return captionedText(item.labelTr(), item.valueTr());
+        return tidyLine(item.labelTr(), item.valueTr());
     const bool isNumber = item.type == QLatin1String("f");
-    return captionedText(isNumber ? withUnit(item.labelTr(), item.unity) : item.labelTr(),
+    return tidyLine(isNumber ? withUnit(item.labelTr(), item.unity) : item.labelTr(),
                          isNumber && item.dataValue.isValid() ? QLocale().toString(item.dataValue.toDouble(), 'g', 6)
                                                               : absentText());
 }
@@ -178,14 +178,14 @@ void ZelkPrinter::drawConfiguration(const Experiment &experiment)
     constexpr int columns = 3;
     const ZelkResults &results = resultsOf(experiment);
     const QStringList texts{
-        captionedText(tr("Event"), QString::number(experiment.ordinal())),
-        captionedText(tr("Task name"), results.label()),
-        captionedText(tr("Sample time [s]"), QString::number(results.sampleTime())),
-        captionedText(tr("Start time"), localTime(results.startTime())),
-        captionedText(tr("Stop time"), localTime(results.stopTime())),
+        tidyLine(tr("Event"), QString::number(experiment.ordinal())),
+        tidyLine(tr("Task name"), results.label()),
+        tidyLine(tr("Sample time [s]"), QString::number(results.sampleTime())),
+        tidyLine(tr("Start time"), localTime(results.startTime())),
+        tidyLine(tr("Stop time"), localTime(results.stopTime())),
         QString(),
-        captionedText(tr("Duration"), results.duration()),
-        captionedText(tr("Pause time"), results.pauseTime()),
+        tidyLine(tr("Duration"), results.duration()),
+        tidyLine(tr("Pause time"), results.pauseTime()),
     };
     wholeSection(tr("Configuration"), [&] {
         for (int first = 0; first < texts.size(); first += columns)

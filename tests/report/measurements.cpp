@@ -2,6 +2,7 @@
 #include "tests/report/measurements.h"
 
 #include "ardel/ardel2experiment.h"
+#include "lomtrix/lomtrixexperiment.h"
 #include "nembra/nembraexperiment.h"
 #include "nembraplus/nembraplusexperiment.h"
 #include "thalvex2/thalvex2experiment.h"
@@ -207,6 +208,28 @@ ExperimentChain Measurements::ardel2(const Noise &noise)
     expectParsed(results->parseOctaveBands(bands("6", noise.octaves, 63)));
     const QByteArray when = ',' + wireText(course.start) + ',' + wireText(course.start);
     expectParsed(results->parseFieldChecks("7,1," + noise.checks + when));
+    experiment->setResults(std::move(results));
+    return experiment;
+}
+
+ExperimentChain Measurements::lomtrix(const Vibration &vibration)
+{
+    const Course &course = vibration.course;
+    ExperimentChain experiment = measurement<LomtrixExperiment, LomtrixLog>(course, [&](int i) {
+        QByteArray text = ',' + QByteArray::number(course.interval);
+        const double swing = 1 + 0.5 * std::sin(i / 7.0);
+        for (const double middle : {3.011, 2.022, 4.033, 5.11, 6.22, 7.33, 10.044, 8.055, 114.066, 5.077})
+            text += ',' + (course.text.isEmpty() ? QByteArray::number(middle * swing, 'f', 3) : course.text);
+        return i == course.samples / 2 ? text.left(text.lastIndexOf(',') + 1) : text;
+    });
+    auto results = std::make_unique<LomtrixResults>();
+    expectParsed(results->parseHeader1("1,1," + vibration.name + ',' + span(course) + ',' + QByteArray::number(course.interval) +
+                                       ',' + QByteArray::number(course.samples * course.interval) +
+                                       ",90,Slow,Wh,Wd,Wk,1.4,1.3,1," + vibration.type));
+    expectParsed(results->parseHeader2("2,1,5.349,50.28,38.02,---,8.85,8.98,8.99"));
+    expectParsed(results->parseHeader3("3,1,4.76,3.69,6.46,0.36,0.27,0.45,31.7,23.9,41.7,57,43,75,2.66,2.004,3.482"));
+    expectParsed(results->parseHeader5("5,1,ACC-3,S-00417,10.02,9.98,10.05"));
+    (void)results->refreshPartialResults({{"exposureTime", vibration.exposure}}); // refused without a record
     experiment->setResults(std::move(results));
     return experiment;
 }

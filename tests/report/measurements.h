@@ -39,4 +39,15 @@ ExperimentChain nembra(const Noise &noise);
 ExperimentChain nembraPlus(const Noise &noise);
 ExperimentChain ardel2(const Noise &noise);
 
+/// What a vibration meter was set to, and what came of it.
+struct Vibration {
+    Course course;
+    QByteArray name = "Drill";
+    QByteArray type = "1"; ///< "0": of the whole body
+    QString exposure = "02:30";
+};
+
+/// Accelerations of some m/s² on three axes, and one that is missing in the middle.
+ExperimentChain lomtrix(const Vibration &vibration);
+
 } // namespace Measurements
