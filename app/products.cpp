@@ -1,6 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/products.h"
 
+#include "lomtrix/lomtrix.h"
+#include "lomtrix/lomtrixconfig.h"
+#include "lomtrix/lomtrixexperiment.h"
+#include "lomtrix/lomtrixexposurecomponent.h"
+#include "lomtrix/lomtrixfile.h"
+#include "lomtrix/lomtrixlog.h"
+#include "lomtrix/lomtrixprinter.h"
+#include "lomtrix/lomtrixresults.h"
 #include "nembra/nembra.h"
 #include "nembra/nembraconfig.h"
 #include "nembra/nembraexperiment.h"
@@ -53,6 +61,8 @@ const Product products[] = {
               NembraExposureComponent>("NEMBRA", ".nbr"),
     productOf<NembraPlus, NembraPlusConfig, NembraPlusExperiment, NembraPlusFile, NembraPlusLog, NembraPlusPrinter,
               NembraPlusResults, NembraPlusExposureComponent>("NEMBRA+", ".nbp"),
+    productOf<Lomtrix, LomtrixConfig, LomtrixExperiment, LomtrixFile, LomtrixLog, LomtrixPrinter, LomtrixResults,
+              LomtrixExposureComponent>("LOMTRIX", ".lmt"),
     productOf<Zelk, ZelkConfig, ZelkExperiment, ZelkFile, ZelkLog, ZelkPrinter, ZelkResults>("ZELK", ".zlk"),
 };
 

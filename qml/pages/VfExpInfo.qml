@@ -15,7 +15,7 @@ VfFrame {
     property var groups: []
     /// The same in rows beside the lines.
     property var beside: []
-    readonly property real besideWidth: beside.length > 0 ? 365 : 0
+    readonly property real besideWidth: beside.length > 0 ? Math.max(365, Math.min(560, room - 500)) : 0
     readonly property var timeWeightings: ({ Slow: qsTr("Slow (S)"), Fast: qsTr("Fast (F)"), Impulse: qsTr("Impulse (I)") })
     /// What the page has beside its buttons.
     property real room: 900

@@ -8,7 +8,7 @@ Column {
 
     readonly property alias text: field.text
     readonly property alias warning: warning.text
-    readonly property string unchanged: qsTr("Working hours of 00:00 leave the results as they are")
+    readonly property string unchanged: qsTr("Nothing is computed for working hours of 00:00")
     property bool told: false
 
     /// The working hours that results were told with.

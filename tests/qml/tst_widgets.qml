@@ -123,7 +123,7 @@ Item {
                     { tag: "a digit short", typed: "7", text: "7:", warning: form },
                     { tag: "nothing", typed: "", text: ":", warning: form },
                     { tag: "of no length", typed: "0000", text: "00:00", sent: "00:00",
-                      warning: "Working hours of 00:00 leave the results as they are" }]
+                      warning: "Nothing is computed for working hours of 00:00" }]
         }
         function test_workingHours(row) {
             testCase.Window.window.requestActivate()

@@ -9,6 +9,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QJsonDocument>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPushButton>
@@ -81,6 +82,8 @@ private slots:
     void unitsGrowAndShrink();
     void severalAtOnce_data();
     void severalAtOnce();
+    void dailyExposure_data();
+    void dailyExposure();
     void quantitiesGrowAndShrink();
     void configureAndErase_data() { products(); }
     void configureAndErase();
@@ -99,6 +102,11 @@ private:
     void lookAtTabs(const QStringList &titles);
     void chooseFile(const QString &path);
     void answer(const QString &text, QMessageBox::StandardButton button);
+    void type(const char *text)
+    {
+        for (; *text; ++text)
+            QTest::keyClick(m_window, *text);
+    }
     QString state() const { return m_root->property("state").toString(); }
     QQuickItem *experimentItem(int index) const;
     SimulatedInstrument &instrument(const QString &product)
@@ -362,6 +370,76 @@ void TestWindow::quantitiesGrowAndShrink()
     QCOMPARE(m_core->saveExperimentToFile(path), 0);
     m_core->parseFile(path);
     walk();
+}
+
+void TestWindow::dailyExposure_data()
+{
+    QTest::addColumn<QVector<int>>("sizes");
+    QTest::newRow("three that differ") << QVector<int>{1, 480, 25};
+    QTest::newRow("sixty") << QVector<int>(60, 2);
+}
+
+/// Measurements ticked, and their exposure times given, by keyboard; each of them looked at, another working day, and so
+/// again from their file.
+void TestWindow::dailyExposure()
+{
+    QFETCH(QVector<int>, sizes);
+    QVector<SimulatedExperiment> memory;
+    for (const int size : qAsConst(sizes)) {
+        memory.append(SimulatedExperiment());
+        memory.last().size = size;
+        memory.last().type = "H";
+    }
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedLomtrix(5, memory)));
+    const QString path = m_folder.filePath(QStringLiteral("day%1.lmt").arg(sizes.size()));
+    const auto figure = [this](const char *key) {
+        const QJsonDocument shown = QJsonDocument::fromJson(m_core->experiment().toUtf8());
+        return shown[QLatin1String("results")][QLatin1String(key)].toDouble();
+    };
+    const auto giveTimes = [&] {
+        QTRY_COMPARE(state(), QStringLiteral("LomtrixComponentsState"));
+        m_window->requestActivate();
+        QTRY_VERIFY(m_window->activeFocusItem() && m_window->activeFocusItem()->property("inputMask").isValid());
+        for (int i = 0; i < sizes.size(); ++i) {
+            type("0020");
+            QTest::keyClick(m_window, Qt::Key_Tab);
+        }
+        QTest::keyClick(m_window, Qt::Key_Return); // on "Next"
+        QTRY_COMPARE(state(), QStringLiteral("LomtrixResultsState"));
+    };
+
+    enter(QStringLiteral("LOMTRIX"));
+    QCOMPARE(state(), QStringLiteral("LomtrixState"));
+    click(experimentItem(1));
+    for (int i = 1; i < sizes.size(); ++i) {
+        QTest::keyClick(m_window, Qt::Key_Down);
+        QTest::keyClick(m_window, Qt::Key_Space);
+    }
+    press(QStringLiteral("Accept"));
+    chooseFile(path);
+    giveTimes();
+    const double are = figure("are");
+    QVERIFY(are > 0);
+    for (int i = 1; i < sizes.size(); ++i) {
+        if (i < 4)
+            lookAtTabs({"Acceleration x Time", "Amr x Octave", "Table"});
+        click(findInWindows(has("label", QStringLiteral("Next experiment"))));
+    }
+    QVERIFY(!findInWindows(has("label", QStringLiteral("Next experiment"))));
+    QCOMPARE(figure("are"), are);
+
+    click(findInWindows(has("selectByMouse", true))); // the working hours
+    type("0200");
+    QTest::keyClick(m_window, Qt::Key_Return);
+    QVERIFY(qAbs(figure("are") - 2 * are) < 1e-9);
+    QVERIFY(findInWindows(has("text", QLocale().toString(2 * are, 'f', 2))));
+
+    for (int back = 0; back < 3; ++back)
+        click(findInWindows(has("label", QStringLiteral("Back"))));
+    press(QStringLiteral("Open file"));
+    chooseFile(path);
+    giveTimes();
+    QCOMPARE(figure("are"), are);
 }
 
 void TestWindow::configureAndErase()
