@@ -26,6 +26,7 @@ Column {
         core.refreshWorkingHours(JSON.stringify({ workingHours: field.text }))
         if (!told)
             warning.text = unchanged
+        field.field.selectAll() // the next are typed over them
     }
 
     spacing: Theme.gap

@@ -22,7 +22,11 @@ VfInputText {
         function onActiveFocusChanged() { if (input.field.activeFocus) input.field.selectAll() }
         function onReleased() {
             var missing = input.field.displayText.indexOf(" ")
-            if (missing >= 0 && input.field.selectedText === "")
+            if (input.field.selectedText !== "")
+                return
+            if (missing < 0)
+                input.field.selectAll()
+            else
                 input.field.cursorPosition = missing
         }
     }
