@@ -229,7 +229,7 @@ ExperimentChain Measurements::lomtrix(const Vibration &vibration)
     expectParsed(results->parseHeader2("2,1,5.349,50.28,38.02,---,8.85,8.98,8.99"));
     expectParsed(results->parseHeader3("3,1,4.76,3.69,6.46,0.36,0.27,0.45,31.7,23.9,41.7,57,43,75,2.66,2.004,3.482"));
     expectParsed(results->parseHeader5("5,1,ACC-3,S-00417,10.02,9.98,10.05"));
-    (void)results->refreshPartialResults({{"exposureTime", vibration.exposure}}); // refused without a record
+    (void)results->refreshPartialResults({{QStringLiteral("exposureTime"), vibration.exposure}}); // refused without a record
     experiment->setResults(std::move(results));
     return experiment;
 }

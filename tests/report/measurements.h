@@ -44,7 +44,7 @@ struct Vibration {
     Course course;
     QByteArray name = "Drill";
     QByteArray type = "1"; ///< "0": of the whole body
-    QString exposure = "02:30";
+    QString exposure = QStringLiteral("02:30");
 };
 
 /// Accelerations of some m/s² on three axes, and one that is missing in the middle.
