@@ -136,7 +136,7 @@ void TimeChart::addMarkers(QChart *chart) const
         for (const QVector<QPointF> &piece : curve.pieces)
             series->append(piece.toList());
         chart->addSeries(series); // gives it a theme's colours, which the marker's replace
-        QBrush brush(QImage(curve.marker.picture));
+        QBrush brush(QImage(curve.marker.picture).copy(0, 0, markerSize + 2, markerSize + 2)); // a rim, for it repeats
         brush.setColor(curve.marker.colour);
         series->setBrush(brush);
         series->setPen(QPen(Qt::transparent));

@@ -95,4 +95,5 @@ FamilyCase thalvex4Case();
 FamilyCase nembraCase();
 FamilyCase nembraPlusCase();
 FamilyCase zelkCase();
+FamilyCase lomtrixCase();
 FamilyCase ardel2Case();

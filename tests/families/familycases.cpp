@@ -11,6 +11,7 @@ const QVector<FamilyCase> &familyCases()
         nembraCase(),
         nembraPlusCase(),
         zelkCase(),
+        lomtrixCase(),
     };
     return cases;
 }

@@ -76,6 +76,7 @@ private slots:
         QTest::newRow("one experiment") << "one.tvx" << 1;
         QTest::newRow("three, with 3, 0 and 1 expansions") << "three.tv4" << 3;
         QTest::newRow("three, with octaves, thirds and none") << "three.nbr" << 3;
+        QTest::newRow("three, with bands of hand, of body and none") << "three.lmt" << 3;
         QTest::newRow("three, the second with records of their own length, the third overloaded") << "three.nbp" << 3;
         QTest::newRow("three, of one, two and eight quantities") << "three.zlk" << 3;
     }
