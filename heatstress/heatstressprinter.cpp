@@ -136,9 +136,9 @@ void HeatStressPrinter::drawChart(int unit)
     for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors})
         points[quantity].reserve(on[quantity] ? logs.size() : 0);
     for (const Log *log : logs) { // log by log: a day's worth of them does not fit a processor's cache
-        const double time = double(log->registerDate().toMSecsSinceEpoch());
+        const double time = double(log->moment().toMSecsSinceEpoch());
         for (const Quantity quantity : {Dry, Wet, Globe, Indoors, Outdoors}) {
-            if (on[quantity] && log->registerDate().isValid())
+            if (on[quantity] && log->moment().isValid())
                 points[quantity].append({time, number(*log, unit, quantity)});
         }
     }

@@ -96,6 +96,15 @@ QDateTime AtMoment::dateTime() const
     return {QDate(Century + year, month, day), QTime(hour, minute, second), zoneFor(m_quarters)};
 }
 
+qint64 AtMoment::toMSecsSinceEpoch() const
+{
+    if (!m_valid)
+        return 0;
+    const auto &[year, month, day, hour, minute, second] = m_parts;
+    const qint64 days = QDate(1970, 1, 1).daysTo(QDate(Century + year, month, day));
+    return 1000 * (((24 * days + hour) * 60 + minute) * 60 + second - SecondsInQuarter * m_quarters);
+}
+
 bool AtMoment::operator==(const AtMoment &other) const
 {
     return m_parts == other.m_parts && m_quarters == other.m_quarters && m_valid == other.m_valid;

@@ -23,6 +23,8 @@ public:
     QString text() const;
     /// The moment with the hour as written and a fixed zone; invalid for none.
     QDateTime dateTime() const;
+    /// What dateTime() would give, without making one; 0 for none.
+    qint64 toMSecsSinceEpoch() const;
 
     bool operator==(const AtMoment &other) const;
     bool operator!=(const AtMoment &other) const { return !(*this == other); }

@@ -16,6 +16,8 @@ public:
 
     /// The moment of the record to the second, in the instrument's zone.
     QDateTime registerDate() const { return m_registerDate.dateTime(); }
+    /// The same as it is kept: where only the time counts, a day of records is too many to make dates of.
+    const AtMoment &moment() const { return m_registerDate; }
     void setRegisterDate(const QDateTime &date);
 
     /// Reads one "+VFRDXP: " line: 0, or 1 for a record that is refused.

@@ -85,8 +85,8 @@ void NoisePrinter::drawLevelChart(const Experiment &experiment, const LevelChart
     points.reserve(logs.size());
     for (const Log *log : logs) {
         const std::optional<double> level = looks.levelOf(*log);
-        if (level && log->registerDate().isValid())
-            points.append({double(log->registerDate().toMSecsSinceEpoch()), *level});
+        if (level && log->moment().isValid())
+            points.append({double(log->moment().toMSecsSinceEpoch()), *level});
     }
     chart.addCurve(QString(), points);
     placeChart(chart, ChartHeight);

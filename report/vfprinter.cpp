@@ -577,10 +577,10 @@ QList<VfTableRow *> VfPrinter::logRows(const Experiment *experiment,
     const QList<Log *> logs = experiment->logs();
     rows.reserve(logs.size());
     for (const Log *log : logs) {
-        QStringList cells{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
-                          localTime(log->registerDate())};
+        const QDateTime date = log->registerDate();
+        QStringList cells{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')), localTime(date)};
         cells += cellsOf(*log);
-        rows.append(new VfTableRow(cells, log->registerDate().date()));
+        rows.append(new VfTableRow(cells, date.date()));
     }
     return rows;
 }

@@ -105,15 +105,17 @@ QJsonObject on(const Keys &keys, QJsonObject choices = {})
 }
 
 /// The texts of the rows of the log table, and nothing but a glyph run for each of them.
-double glyphRuns(const Printed &printed, const Keys &cells, int repetitions)
+double glyphRuns(const Printed &printed, const Report &report, int repetitions)
 {
     QVector<QStringList> rows;
     const QList<Log *> logs = printed.experiment()->logs();
     for (const Log *log : logs) {
-        const QJsonObject record = log->toJson();
+        QJsonObject record = log->toJson();
+        if (report.units > 1)
+            record = record[QLatin1String("enviromentalFactorsList")].toArray().first().toObject();
         QStringList texts{QStringLiteral("%1").arg(rows.size() + 1, 3, 10, QLatin1Char('0')),
                           log->registerDate().toString(QStringLiteral("hh:mm:ss"))};
-        for (const char *cell : cells)
+        for (const char *cell : report.cells)
             texts.append(record[QLatin1String(cell)].toString());
         rows.append(texts);
     }
@@ -152,7 +154,7 @@ void benchFamily(const Report &report, const Subject &subject, const QTemporaryD
     const Printed few(subject, 1000, folder);
     const Printed many(subject, day, folder);
     if (!report.table.empty()) {
-        const double floor = glyphRuns(many, report.cells, 3);
+        const double floor = glyphRuns(many, report, 3);
         const double bare = median(3, [&] { many.print(report.more); });
         const double whole = median(3, [&] { many.print(on(report.table, report.more)); });
         row(QStringLiteral("%1: log table, a row of %2 cells").arg(subject.name()).arg(report.cells.size() + 2),
@@ -184,7 +186,7 @@ QImage picture(const Printed &printed, int columns)
         for (const Log *log : logs) {
             noise = noise * 1664525U + 1013904223U;
             const double value = log->toJson()[QLatin1String("dryTemperature")].toString().toDouble() + 3 * curve;
-            points.append({double(log->registerDate().toMSecsSinceEpoch()), value + double(noise >> 24) / 512});
+            points.append({double(log->moment().toMSecsSinceEpoch()), value + double(noise >> 24) / 512});
         }
         curves.addCurve(QStringLiteral("T<sub>Dry</sub>"), points);
     }

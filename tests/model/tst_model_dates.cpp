@@ -39,6 +39,7 @@ private slots:
         QTEST(moment.time(), "time");
         QTEST(moment.offsetFromUtc(), "offset");
         QCOMPARE(AtDateTime::toAtString(moment), text);
+        QCOMPARE(AtMoment::fromText(text).toMSecsSinceEpoch(), moment.toMSecsSinceEpoch());
     }
 
     void writesAnyZone_data()
