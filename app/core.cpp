@@ -56,7 +56,7 @@ QVariant Core::experimentList() const
 
 QVariant Core::virtualSchedulelist() const
 {
-    return QVariant::fromValue(QList<QObject *>());
+    return QVariant::fromValue(QList<QObject *>(m_schedules.cbegin(), m_schedules.cend()));
 }
 
 QVariant Core::expCompList() const
@@ -138,6 +138,14 @@ void Core::clearExperimentList()
     qDeleteAll(gone);
 }
 
+void Core::setScheduleList(const QList<Schedule *> &list)
+{
+    const QList<Schedule *> gone = std::exchange(m_schedules, list);
+    emit scheduleListUpdate();
+    for (Schedule *schedule : gone)
+        schedule->deleteLater();
+}
+
 void Core::setCurrent(Experiment *experiment)
 {
     m_experiment = experiment;
@@ -175,6 +183,8 @@ void Core::dropSession()
     m_file.reset();
     clearDeviceList();
     clearExperimentList();
+    if (!m_schedules.isEmpty())
+        setScheduleList({});
 }
 
 void Core::closePorts()

@@ -109,11 +109,13 @@ public slots:
     int createExperiment(QString idxList);
     /// Reads configuration and calibration from the instrument.
     int acquireConfiguration();
+    /// Reads the instrument's schedules into virtualSchedulelist.
     int acquireScheduleList();
     /// Sends the family's JSON text \a cfg as configuration.
     int sndConfiguration(QString cfg);
     /// Sends a JSON object with "date" (ISO 8601) and "certification".
     int sndCalibration(QString calib);
+    /// Writes {"scheduleList": the value of virtualSchedulelist} to the instrument, and switches its schedules on.
     int sndScheduleList(QString cfg);
     int eraseMemory();
     /// Prints the chain as the family's JSON text says: 0, or -1 when no report can be made of the session.
@@ -124,7 +126,9 @@ public slots:
     /// Begins a session with the experiments in file \a fileName (a URL or a path).
     void parseFile(QString fileName);
     void updateProgressBar(double progress);
+    /// Takes schedule \a idx out of virtualSchedulelist.
     void removeSchedule(int idx);
+    /// Adds a schedule, a JSON object, to virtualSchedulelist; what is against it is told by scheduleError.
     void addSchedule(QString schedule);
     void serialErrorOcurred(QSerialPort::SerialPortError error);
     void deviceIsBusy();
@@ -146,6 +150,7 @@ private:
     void clearExperimentList();
     void setChain(ExperimentChain chain);
     DevicePtr source() const { return m_chain ? m_chainSource : m_device; }
+    void setScheduleList(const QList<Schedule *> &list);
     void setCurrent(Experiment *experiment);
     int download(const Experiment &listed);
 
@@ -153,6 +158,7 @@ private:
     QList<DevicePtr> m_deviceList;
     DevicePtr m_device;
     QList<Experiment *> m_experimentList;
+    QList<Schedule *> m_schedules; ///< being edited; children of this object, apart from those of the instrument
     ExperimentChain m_chain;
     DevicePtr m_chainSource;            ///< the instrument that the chain was measured with
     Experiment *m_experiment = nullptr; ///< current member of the chain

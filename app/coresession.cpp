@@ -5,6 +5,7 @@
 #include "app/core.h"
 
 #include "link/factories.h"
+#include "model/jsontext.h"
 #include "model/results.h"
 
 #include <QCoreApplication>
@@ -206,22 +207,47 @@ int Core::sndCalibration(QString calib)
 
 int Core::acquireScheduleList()
 {
-    return talk([](Device &device) { return device.acquireScheduleList(); });
+    const int code = talk([](Device &device) { return device.acquireScheduleList(); });
+    if (code != DeviceSuccessful)
+        return code;
+    QList<Schedule *> copies;
+    for (const Schedule *schedule : m_device->scheduleList()) {
+        copies.append(schedule->copy().release());
+        copies.last()->setParent(this);
+    }
+    setScheduleList(copies);
+    return code;
 }
 
 int Core::sndScheduleList(QString cfg)
 {
+    if (isTalking())
+        return DeviceBusy;
     const int code = m_device ? m_device->setScheduleListFromJson(cfg) : DeviceError;
     return code != 0 ? code : talk([](Device &device) { return device.sndScheduleList(); });
 }
 
-void Core::addSchedule(QString)
+void Core::addSchedule(QString schedule)
 {
-    // none of the instruments of this version has schedules
+    auto added = std::make_unique<Schedule>();
+    const auto refuse = [this](const QString &reason) { emit scheduleError(reason + QLatin1Char('.')); };
+    if (m_schedules.size() >= Schedule::Most)
+        return refuse(tr("The dosimeter support up to 10 schedules"));
+    const bool readable = added->fromJson(objectOfText(schedule).value_or(QJsonObject())) == 0;
+    if (readable && !added->isDurationValid())
+        return refuse(tr("The experiment is too long"));
+    if (!readable || !added->isAvailable(m_schedules))
+        return refuse(tr("The schedule is not available"));
+    added->setParent(this);
+    m_schedules.append(added.release());
+    emit scheduleOk();
+    emit scheduleListUpdate();
 }
 
-void Core::removeSchedule(int)
+void Core::removeSchedule(int idx)
 {
+    if (idx >= 0 && idx < m_schedules.size())
+        m_schedules.takeAt(idx)->deleteLater(); // what a page does with it may have led here
     emit scheduleListUpdate();
 }
 

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/device.h"
 
+#include "model/jsontext.h"
+
 #include <QJsonArray>
 
 namespace {
@@ -128,13 +130,16 @@ int Device::identify()
 
 QJsonObject Device::toJson() const
 {
+    QJsonArray schedules;
+    for (const auto &schedule : m_schedules)
+        schedules.append(schedule->toJson());
     return {
         {QStringLiteral("name"), m_productName},
         {QStringLiteral("manufactory"), m_manufactoryName},
         {QStringLiteral("SN"), m_sn},
         {QStringLiteral("Fw"), m_fw},
         {QStringLiteral("calibration"), m_calibration.toJson()},
-        {QStringLiteral("scheduleList"), QJsonArray()},
+        {QStringLiteral("scheduleList"), schedules},
     };
 }
 
@@ -146,9 +151,28 @@ void Device::fromJson(const QJsonObject &object)
     m_calibration.fromJson(object[QLatin1String("calibration")].toObject());
 }
 
-int Device::setScheduleListFromJson(const QString &)
+QList<Schedule *> Device::scheduleList() const
 {
-    return DeviceError;
+    QList<Schedule *> list;
+    for (const auto &schedule : m_schedules)
+        list.append(schedule.get());
+    return list;
+}
+
+int Device::setScheduleListFromJson(const QString &cfg)
+{
+    const std::optional<QJsonObject> object = objectOfText(cfg);
+    const QJsonArray array = object ? object->value(QLatin1String("scheduleList")).toArray() : QJsonArray();
+    if (!object || array.size() > Schedule::Most)
+        return DeviceError;
+    ScheduleList list;
+    for (const QJsonValue &element : array) {
+        list.push_back(std::make_unique<Schedule>());
+        if (list.back()->fromJson(element.toObject()) != 0)
+            return DeviceError;
+    }
+    setScheduleList(std::move(list));
+    return DeviceSuccessful;
 }
 
 void Device::ifaceErrorOcurred(QSerialPort::SerialPortError s)

@@ -5,6 +5,7 @@
 #include "link/reply.h"
 #include "model/calibration.h"
 #include "model/deviceconfig.h"
+#include "model/schedule.h"
 
 #include <QJsonObject>
 #include <QList>
@@ -16,7 +17,6 @@
 
 class Experiment;
 class Results;
-class Schedule;
 
 /// An instrument: what every one of them has, and the commands that all of them answer. By itself it is the plain
 /// object that a scan makes; each family derives from it.
@@ -48,7 +48,8 @@ public:
     DeviceConfig *config() const { return m_config.get(); }
     /// Takes ownership.
     void setConfig(DeviceConfig *config) { m_config.reset(config); }
-    QList<Schedule *> scheduleList() const { return m_schedules; }
+    /// The schedules as the instrument has them, or as they are sent to it. They stay the device's.
+    QList<Schedule *> scheduleList() const;
 
     Interface *interface() const { return m_iface.get(); }
     /// The last error that the port reported, 0 (QSerialPort::NoError) at the start.
@@ -65,8 +66,9 @@ public:
     QJsonObject toJson() const;
     /// Reads what toJson() wrote, but for the product name and the schedules.
     void fromJson(const QJsonObject &object);
-    /// -1: only the dosimeter has schedules.
-    virtual int setScheduleListFromJson(const QString &cfg);
+    /// Reads the schedules to be sent, {"scheduleList": [...]}: 0, or -1 for a text that is no object, for a schedule that
+    /// cannot be read and for more than an instrument holds; nothing changes then.
+    int setScheduleListFromJson(const QString &cfg);
 
     /// Sets the instrument's clock to \a when.
     int setClock(const QDateTime &when);
@@ -140,6 +142,9 @@ protected:
     int queryCalibration(const QByteArray &command);
     /// Reads the service setting.
     int queryServiceConfig();
+    /// \a code, told of by busy() when it is DeviceBusy.
+    int tellOfBusy(int code);
+    void setScheduleList(ScheduleList list) { m_schedules = std::move(list); }
     void setServiceConfig(int value) { m_serviceConfig = value; }
 
     template <class R> using HeaderParser = int (R::*)(const QByteArray &);
@@ -173,7 +178,7 @@ private:
     QString m_sn;
     QString m_fw;
     Calibration m_calibration;
-    QList<Schedule *> m_schedules;
+    ScheduleList m_schedules;
     std::unique_ptr<DeviceConfig> m_config;
     Manners m_manners;
     int m_serviceConfig = 0;

@@ -89,11 +89,18 @@ std::optional<QByteArray> Device::acquireHeader(int header, int index)
 {
     const QByteArray place = QByteArray::number(header) + ',' + QByteArray::number(index);
     const Reply reply = query("AT+VFXPHDR=" + place + "\r\n", "\r\n+VFXPHDR: ");
-    if (reply.code == DeviceBusy && m_manners.headersTellBusy)
-        emit busy();
+    if (m_manners.headersTellBusy)
+        tellOfBusy(reply.code);
     if (reply.code != DeviceSuccessful)
         return std::nullopt;
     return reply.data;
+}
+
+int Device::tellOfBusy(int code)
+{
+    if (code == DeviceBusy)
+        emit busy();
+    return code;
 }
 
 int Device::finishHeaderRead(Results *results, int index)
@@ -104,10 +111,7 @@ int Device::finishHeaderRead(Results *results, int index)
     const Reply reply = sortReply(readResponse(), "\r\n+VFXPHDR: ", Match::End);
     if (reply.code == DeviceSuccessful)
         return results->parseClosingRecord(reply.data);
-    if (reply.code != DeviceBusy)
-        return DeviceError;
-    emit busy();
-    return DeviceBusy;
+    return reply.code == DeviceBusy ? tellOfBusy(reply.code) : DeviceError;
 }
 
 Results *Device::acquireResults(Experiment *)
@@ -123,9 +127,8 @@ int Device::sndCalibration(const Calibration *calib)
 int Device::sendCalibration(const QByteArray &command, const QStringList &texts)
 {
     const QByteArray quoted = '"' + texts.join(QLatin1String("\",\"")).toLatin1() + '"';
-    const int code = query("AT+" + command + '=' + quoted + "\r\n", "\r\n+" + command + ": ", Match::Whole).code;
-    if (code == DeviceBusy)
-        emit busy();
+    const QByteArray tag = "\r\n+" + command + ": ";
+    const int code = tellOfBusy(query("AT+" + command + '=' + quoted + "\r\n", tag, Match::Whole).code);
     return code == DeviceDisconnected ? DeviceError : code;
 }
 
@@ -145,17 +148,15 @@ int Device::queryCalibration(const QByteArray &command)
 Reply Device::askSetting(const QByteArray &command)
 {
     const Reply reply = query("AT+" + command + "?\r\n", "\r\n+" + command + ": ");
-    if (reply.code == DeviceBusy && m_manners.settingsTellBusy)
-        emit busy();
+    if (m_manners.settingsTellBusy)
+        tellOfBusy(reply.code);
     return reply;
 }
 
 int Device::order(const QByteArray &cmd, const QByteArray &tag)
 {
     const int code = query(cmd, tag, m_manners.writes).code;
-    if (code == DeviceBusy && m_manners.settingsTellBusy)
-        emit busy();
-    return code;
+    return m_manners.settingsTellBusy ? tellOfBusy(code) : code;
 }
 
 int Device::sendSetting(const Order &order)

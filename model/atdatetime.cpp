@@ -120,15 +120,17 @@ QString AtDateTime::toAtString(const QDateTime &t)
     return AtMoment(t).text();
 }
 
-QDateTime AtDateTime::dateForMonthDay(int day)
+// Months are counted on the date alone: summer time may skip the hour on one of the days between.
+QDateTime AtDateTime::dateForMonthDay(int day, const QDateTime &now)
 {
-    QDateTime when = QDateTime::currentDateTime();
-    const int today = when.date().day();
-    if (day < today)
-        when = when.addMonths(1);
-    while (day > when.date().daysInMonth() && day <= 31)
-        when = when.addMonths(1);
-    return when.addDays(day - when.date().day());
+    QDate date = now.date();
+    if (day < date.day())
+        date = date.addMonths(1);
+    while (day > date.daysInMonth() && day <= 31)
+        date = date.addMonths(1);
+    QDateTime when = now;
+    when.setDate(date.addDays(day - date.day()));
+    return when;
 }
 
 int AtDateTime::nextMonthDay(int day)

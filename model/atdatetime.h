@@ -46,8 +46,8 @@ QString toAtString(const QDateTime &t);
 /// Invalid when the front is not of the form or is no date of the calendar.
 QDateTime fromAtString(const QString &s);
 
-/// The current moment moved on to the next date that has day of the month \a day (1 to 31).
-QDateTime dateForMonthDay(int day);
+/// \a now moved on to the next date that has day of the month \a day (1 to 31); it may be today.
+QDateTime dateForMonthDay(int day, const QDateTime &now = QDateTime::currentDateTime());
 
 /// \a day + 1, or 1 when the current month ends before it.
 int nextMonthDay(int day);

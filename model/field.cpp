@@ -15,7 +15,7 @@ bool isDateWithTime(const char *text, int length)
 
 } // namespace
 
-Pieces pieces(const QByteArray &answer, const char *tag)
+Pieces pieces(const QByteArray &answer, const char *tag, Dates dates)
 {
     QByteArray plain = answer;
     plain.replace(tag, "").replace('\n', "");
@@ -27,7 +27,10 @@ Pieces pieces(const QByteArray &answer, const char *tag)
         const char c = plain[at];
         if (c == '"') {
             quoted = quoted < 0 && quotes ? at + 1 : -1;
-        } else if (c == ',' && (quoted < 0 || isDateWithTime(&plain.constData()[quoted], plain.indexOf('"', at) - quoted))) {
+        } else if (c == ','
+                   && (quoted < 0
+                       || (dates == Dates::ComeApart
+                           && isDateWithTime(&plain.constData()[quoted], plain.indexOf('"', at) - quoted)))) {
             parts.append(part);
             part.clear();
         } else {

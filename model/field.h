@@ -93,9 +93,12 @@ private:
     std::vector<const Field<T> *> m_byKey;
 };
 
+/// What becomes of a date and its time that stand in one pair of quotes.
+enum class Dates { ComeApart, StayWhole };
+
 /// The pieces of \a answer between its commas, without \a tag, line feeds and double quotes. Empty pieces count. A comma
-/// between double quotes belongs to its text, except in a date, which comes apart from its time.
-Pieces pieces(const QByteArray &answer, const char *tag);
+/// between double quotes belongs to its text, except in a date that comes apart from its time.
+Pieces pieces(const QByteArray &answer, const char *tag, Dates dates = Dates::ComeApart);
 
 /// The pieces of each line of an answer of several lines.
 QVector<Pieces> linesOf(const QByteArray &answer, const char *tag);
