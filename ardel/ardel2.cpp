@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "ardel/ardel2.h"
 
-#include "model/schedule.h"
+#include "ardel/ardel2results.h"
 
 namespace {
 
@@ -17,6 +17,21 @@ Device::Manners Ardel2::manners()
     manners.headersTellBusy = true;
     manners.closingRecordNeeded = true;
     return manners;
+}
+
+Results *Ardel2::acquireResults(Experiment *exp)
+{
+    using R = Ardel2Results;
+    auto results = std::make_unique<R>();
+    const Reply settings = query("AT+VFDOSCFG?\r\n", "\r\n+VFDOSCFG: ");
+    if (tellOfBusy(settings.code) != DeviceSuccessful || results->parseDosimeterConfig(settings.data) != 0)
+        return nullptr;
+    return acquireHeaders<R>(exp,
+                             {&R::parseIdentification, &R::parseDosimeter1Results, &R::parseDosimeter2Results,
+                              &R::parseDosimeterUserResults, &R::parseStatistics, &R::parseOctaveBands,
+                              &R::parseFieldChecks},
+                             std::move(results))
+        .release();
 }
 
 int Ardel2::acquireServiceConfig()

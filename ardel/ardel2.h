@@ -15,6 +15,9 @@ public:
     Ardel2() : DeviceOf(manners()) {}
     explicit Ardel2(const Device &plain) : DeviceOf(plain, manners()) {}
 
+    /// The settings of the three dosimeters as of today, headers 1 to 7, of which the first tells the USER dosimeter's as
+    /// they were, and the closing record.
+    Results *acquireResults(Experiment *exp) override;
     int acquireServiceConfig() override;
     /// Reads all places into scheduleList(). One that does not answer OK, or whose answer is no schedule, is passed over:
     /// that is how empty places answer. -3 when a command cannot be sent; the list stays as it was then.
