@@ -1,15 +1,14 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #pragma once
 
-#include "simulator/noise.h"
-#include "simulator/virtualinstrument.h"
+#include "simulator/noiseinstrument.h"
 
-/// What the sound level meters have in common: weightings, octave analysis, one level in a record. Equivalent, highest and
-/// lowest level and the statistics are those of the records; the other weightings lie a fixed way above or below.
-class SoundLevelInstrument : public VirtualInstrument
+/// What the sound level meters have in common: one level in a record. Equivalent, highest and lowest level and the
+/// statistics are those of the records; the other weightings lie a fixed way above or below.
+class SoundLevelInstrument : public NoiseInstrument
 {
 public:
-    SoundLevelInstrument(Identity identity, quint32 seed, const QVector<SimulatedExperiment> &memory);
+    using NoiseInstrument::NoiseInstrument;
 
 protected:
     struct Summary {
@@ -18,14 +17,9 @@ protected:
         int most = 0;        ///< tenths of dB
         int least = 0;
         QByteArray mostDate; ///< as two fields
-        QVector<int> sorted; ///< loud to soft
     };
-
-    /// Tenths of dB.
-    [[nodiscard]] int level(const SimulatedExperiment &experiment, int number) const;
     [[nodiscard]] Summary summary(const SimulatedExperiment &experiment) const;
 
-    [[nodiscard]] QByteArray listLine(const SimulatedExperiment &experiment) const override;
     [[nodiscard]] QByteArrayList record(const SimulatedExperiment &experiment, int number) const override;
     [[nodiscard]] Lines header(int number, const SimulatedExperiment &experiment) const override;
     /// What is told of the levels.
@@ -34,9 +28,5 @@ protected:
     [[nodiscard]] virtual QByteArray generalFields(const SimulatedExperiment &experiment) const;
 
 private:
-    [[nodiscard]] QByteArrayList bandLines(const SimulatedExperiment &experiment) const;
-    [[nodiscard]] QByteArray checkFields(const SimulatedExperiment &experiment) const;
     [[nodiscard]] QByteArray statisticFields(const SimulatedExperiment &experiment) const;
-
-    Noise m_noise;
 };
