@@ -1,6 +1,13 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
 #include "link/products.h"
 
+#include "ardel/ardel2.h"
+#include "ardel/ardel2config.h"
+#include "ardel/ardel2experiment.h"
+#include "ardel/ardel2file.h"
+#include "ardel/ardel2log.h"
+#include "ardel/ardel2printer.h"
+#include "ardel/ardel2results.h"
 #include "lomtrix/lomtrix.h"
 #include "lomtrix/lomtrixconfig.h"
 #include "lomtrix/lomtrixexperiment.h"
@@ -57,6 +64,7 @@ const Product products[] = {
         "THALVEX 2", ".tvx"),
     productOf<Thalvex4, Thalvex4Config, Thalvex4Experiment, Thalvex4File, Thalvex4Log, Thalvex4Printer, Thalvex4Results>(
         "THALVEX 4", ".tv4"),
+    productOf<Ardel2, Ardel2Config, Ardel2Experiment, Ardel2File, Ardel2Log, Ardel2Printer, Ardel2Results>("ARDEL 2", ".adl"),
     productOf<Nembra, NembraConfig, NembraExperiment, NembraFile, NembraLog, NembraPrinter, NembraResults,
               NembraExposureComponent>("NEMBRA", ".nbr"),
     productOf<NembraPlus, NembraPlusConfig, NembraPlusExperiment, NembraPlusFile, NembraPlusLog, NembraPlusPrinter,

@@ -10,6 +10,7 @@ const QVector<SimulatedFamily> &families()
          [](quint32 seed, int expansions, const Memory &memory) {
              return simulatedThalvex4(seed, expansions, memory);
          }},
+        {"ardel2", [](quint32 seed, int, const Memory &memory) { return simulatedArdel2(seed, memory); }},
         {"nembra", [](quint32 seed, int, const Memory &memory) { return simulatedNembra(seed, memory); }},
         {"nembraplus", [](quint32 seed, int, const Memory &memory) { return simulatedNembraPlus(seed, memory); }},
         {"lomtrix", [](quint32 seed, int, const Memory &memory) { return simulatedLomtrix(seed, memory); }},

@@ -24,6 +24,10 @@
 [[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedNembraPlus(
     quint32 seed = 1, const QVector<SimulatedExperiment> &memory = workingDays());
 
+/// The dosimeter, with two schedules and a USER dosimeter that was set otherwise when it measured.
+[[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedArdel2(
+    quint32 seed = 1, const QVector<SimulatedExperiment> &memory = workingDays());
+
 /// The vibration meter: every second of its measurements is one of the whole body, the others of hand and arm.
 [[nodiscard]] std::unique_ptr<VirtualInstrument> simulatedLomtrix(
     quint32 seed = 1, const QVector<SimulatedExperiment> &memory = workingDays());

@@ -44,7 +44,7 @@ int main(int argc, char *argv[])
     const QCommandLineOption interval = option("interval", "Seconds between their records.", "seconds", "1");
     const QCommandLineOption delay = option("delay", "Time before each answer.", "ms", "0");
     parser.addOptions({seed, expansions, sizes, interval, delay});
-    parser.addPositionalArgument(QStringLiteral("family"), QStringLiteral("thalvex2, thalvex4, nembra, nembraplus, lomtrix, zelk; without one, all."),
+    parser.addPositionalArgument(QStringLiteral("family"), QStringLiteral("thalvex2, thalvex4, ardel2, nembra, nembraplus, lomtrix, zelk; without one, all."),
                                  QStringLiteral("[family...]"));
     parser.process(application);
 

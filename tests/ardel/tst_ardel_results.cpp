@@ -115,35 +115,6 @@ private slots:
         }
     }
 
-    void answers()
-    {
-        const FamilyCase family = ardel2Case();
-        const auto compare = [](const QByteArray &expected, const QJsonObject &got) {
-            const QJsonObject wanted = shortJson(expected);
-            for (auto member = wanted.begin(); member != wanted.end(); ++member)
-                QCOMPARE(got[member.key()], member.value());
-        };
-        for (const Parsed &row : family.listLines) {
-            Ardel2Experiment experiment;
-            QCOMPARE(experiment.parseHeader(row.lines), row.expected.isEmpty() ? -1 : 0);
-            if (!row.expected.isEmpty())
-                compare(row.expected, experiment.toJson());
-        }
-        for (const Parsed &row : family.records) {
-            Ardel2Log log;
-            QCOMPARE(log.parse(row.lines), row.expected.isEmpty() ? 1 : 0);
-            if (!row.expected.isEmpty())
-                QCOMPARE(log.toJson(), shortJson(row.expected));
-        }
-        for (const ParsedHeader &row : family.headerLines) {
-            Ardel2Results results;
-            QByteArray answer = "+VFXPHDR: " + row.answer;
-            QCOMPARE(row.parse(results, answer.replace("\r", "\r+VFXPHDR: ")), row.expected.isEmpty() ? -1 : 0);
-            if (!row.expected.isEmpty())
-                compare(row.expected, results.toJson());
-        }
-    }
-
     /// A dose twice as large is one exchange rate more, half the work one less, and daily doses grow with the work.
     void rules()
     {

@@ -1,6 +1,56 @@
 // SPDX-License-Identifier: GPL-3.0-or-later
-#include "ardel/ardel2results.h"
 #include "tests/families/familycase.h"
+
+#include "ardel/ardel2results.h"
+#include "link/factories.h"
+#include "model/deviceconfig.h"
+
+namespace {
+
+/// Each command with settings and places of schedules; what reads a measurement says itself when it met BUSY.
+void addExchanges(FamilyCase &family)
+{
+    //                              busy error none  error, busy, OK at end, wrong tag, short record
+    constexpr Codes statusRead =    {-2,  -1,   -3,   -1,    -2,   -1,        -1,        -1};
+    family.configuration = "{'actionLevel':'70','criterionLevel':'86','exchangeRate':'5','frequencyWeighting':'C',"
+                           "'timeWeighting':'Impulse','octaveAnalysis':'1/3','experimentDuration':'09:00',"
+                           "'scheduleStatus':true}";
+    family.written = {"AT+VFTRHLVL=70\r\n", "AT+VFCRTLVL=86\r\n", "AT+VFXCHRAT=5\r\n", "AT+VFFQWGHT=\"C\"\r\n",
+                      "AT+VFTMWGHT=\"Impulse\"\r\n", "AT+VFOCTAVE=\"1/3\"\r\n", "AT+VFXPDUR=32400\r\n", "AT+VFSCH=3,1\r\n"};
+    family.read = {"AT+VFTRHLVL?\r\n", "AT+VFCRTLVL?\r\n", "AT+VFXCHRAT?\r\n", "AT+VFFQWGHT?\r\n",
+                   "AT+VFTMWGHT?\r\n", "AT+VFOCTAVE?\r\n", "AT+VFXPDUR?\r\n", "AT+VFSCH=3\r\n"};
+    const auto read = [](Device &device) { return device.acquireConfiguration(); };
+    const auto write = [](Device &device) {
+        (void)device.config()->fromJson(R"({"octaveAnalysis":"1/3","timeWeighting":"Impulse","frequencyWeighting":"C",
+            "actionLevel":"70","criterionLevel":"86","exchangeRate":"5","experimentDuration":"09:00","scheduleStatus":true})");
+        return device.sndConfiguration();
+    };
+    const auto writeSchedules = [](Device &device) { return device.sndScheduleList(); };
+    const auto readMeasurement = [](Device &device) {
+        bool busy = false;
+        const auto told = QObject::connect(&device, &Device::busy, [&busy] { busy = true; });
+        const std::unique_ptr<Experiment> experiment(FactoryExperiment::create(device.productName()));
+        experiment->setIndex(1);
+        const std::unique_ptr<Results> results(device.acquireResults(experiment.get()));
+        QObject::disconnect(told);
+        return results ? 0 : busy ? -2 : -1;
+    };
+    family.exchanges = {
+        {"service setting", "AT+VFSVCCFG?\r\n", byTheEnd, [](Device &device) { return device.acquireServiceConfig(); }, true},
+        {"action level", family.read[0], byTheEnd, read, true},
+        {"duration", family.read[6], byTheEnd, read, true},
+        {"whether schedules are on", family.read[7], statusRead, read, true},
+        {"set action level", family.written[0], answerIsWhole, write, true},
+        {"set octaves", family.written[5], answerIsWhole, write, true},
+        {"set whether schedules are on", family.written[7], answerIsWhole, write, true},
+        {"schedules off", "AT+VFSCH=3,0\r\n", answerIsWhole, writeSchedules, true},
+        {"clear a schedule", "AT+VFSCH=2,3\r\n", answerIsWhole, writeSchedules, true},
+        {"schedules on", "AT+VFSCH=3,1\r\n", answerIsWhole, writeSchedules, true},
+        {"settings of the three dosimeters", "AT+VFDOSCFG?\r\n", headerRead, readMeasurement, true},
+    };
+}
+
+} // namespace
 
 FamilyCase ardel2Case()
 {
@@ -11,6 +61,8 @@ FamilyCase ardel2Case()
     family.closingRecordNeeded = true;
     family.headers = "12345678";
     family.listRefusal = -1;
+    family.make = [](const QVector<SimulatedExperiment> &memory) { return simulatedArdel2(1, memory); };
+    addExchanges(family);
     // The settings of the USER dosimeter come from older files alone.
     family.missing = "{'labelDos1':'NHO-01','labelDos2':'NR-15','labelDosUSER':'USER','dos2exchangeRate':'5',"
                      "'dos1actionLevel':'80','dosUSERactionLevel':'','preCalDate':'','workingHours':'08:00'}";

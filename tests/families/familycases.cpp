@@ -10,6 +10,7 @@ const QVector<FamilyCase> &familyCases()
         thalvex4Case(),
         nembraCase(),
         nembraPlusCase(),
+        ardel2Case(),
         zelkCase(),
         lomtrixCase(),
     };
