@@ -231,8 +231,8 @@ void LomtrixPrinter::drawChart(const Experiment &experiment)
         QVector<QPointF> points;
         points.reserve(logs.size());
         for (const Log *log : logs) {
-            if (const auto value = numberIn((static_cast<const LomtrixLog *>(log)->*curve.value)()))
-                points.append({double(log->registerDate().toMSecsSinceEpoch()), *value});
+            if (const auto value = numberIn((static_cast<const LomtrixLog *>(log)->*curve.value)()); value && log->moment().isValid())
+                points.append({double(log->moment().toMSecsSinceEpoch()), *value});
         }
         const QString colour = QString::fromLatin1(curve.colour);
         chart.addCurve(QStringLiteral("a<sub>%1</sub>").arg(QLatin1String(curve.index)), points,

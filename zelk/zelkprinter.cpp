@@ -270,8 +270,8 @@ void ZelkPrinter::drawChart(const Experiment &experiment, int quantity, const QR
     points.reserve(logs.size());
     for (const Log *log : logs) {
         const QStringList values = static_cast<const ZelkLog *>(log)->physicalQuantitiesList();
-        if (const auto value = numberIn(values.value(quantity)))
-            points.append({double(log->registerDate().toMSecsSinceEpoch()), *value});
+        if (const auto value = numberIn(values.value(quantity)); value && log->moment().isValid())
+            points.append({double(log->moment().toMSecsSinceEpoch()), *value});
     }
     chart.addCurve(QString(), points);
     placeChart(chart, place);
