@@ -88,7 +88,7 @@ Column {
         }
     }
     VfText {
-        width: Math.max(room.width, 150)
+        width: Math.max(room.width, 190)
         color: Theme.warning
         font.pixelSize: Theme.smallSize
         opacity: boxes.tooMany ? 1 : 0 // keeps its place

@@ -51,6 +51,7 @@ VfFrame {
                 }, info.lines)
                 VfInfoElement {
                     width: Math.max(1, implicitWidth)   // nothing would take no cell of the grid
+                    height: Math.max(1, implicitHeight)
                     label: modelData.label ? modelData.label + ":" : modelData.title || ""
                     maximumWidth: (info.room - 2 * info.padding - info.besideWidth) / grid.columns - grid.columnSpacing
                     value: modelData.label ? Texts.text(modelData.value) : ""

@@ -44,6 +44,8 @@ Item {
 
     function look() {
         var unit = list.currentIndex
+        if (count === 0 && currentView)
+            currentView.visible = false
         if (unit < 0 || unit >= count)
             return
         while (made.length <= unit) {

@@ -96,6 +96,15 @@ ResultsPageCase {
             verify(texts.indexOf("20.50") >= 0 && texts.indexOf("30.00") >= 0, "both temperatures are on screen")
         }
 
+        function test_sensorTitle() {
+            show()
+            drawn(made)
+            function line(label) {
+                return Items.all(made.infoItem, function (item) { return item.label === label && item.valueColor })[0]
+            }
+            verify(line("Sensor").y > line("Sample time:").y && line("Type:").y > line("Sensor").y, "in a row of its own")
+        }
+
         function test_growsAndShrinks() {
             [8, 1, 3, 0, 12, 2].forEach(function (count, i) {
                 show(0, of(count))
@@ -107,6 +116,8 @@ ResultsPageCase {
                 compare(tableTexts().length, count + 1)
                 verify(view().table.width <= 800)
                 compare(view().charts.count, count)
+                view().setTab(1)
+                compare(view().charts.currentView.visible, count > 0, "no chart of the one before")
                 for (var unit = count - 1; unit >= 0; --unit) {
                     view().charts.setUnit(unit)
                     compare(view().charts.currentView.chart.title, "Quantity " + (unit + 1) + " x Time")
@@ -176,6 +187,9 @@ ResultsPageCase {
             }
             tryCompare(made.reportItem, "visible", true)
             compare(warned(), 1)
+            drawn(window)
+            var frames = Items.all(window, function (item) { return item.label === "Show results" && item.demand })
+            verify(frames[0].height >= frames[0].implicitHeight, frames.length + " frame of " + frames[0].height + " for " + frames[0].implicitHeight)
             var boxes = Items.all(window, function (item) { return item.Accessible.name === "Charts: Quantity 3" && item.toggled })
             drawn(window)
             mouseClick(boxes[0], 8, 12)

@@ -15,7 +15,7 @@ VfPrinterConfiguration {
 
     title: qsTr("Zelk - ") + qsTr("Report configuration")
     width: 900
-    height: 600
+    height: 660
     itemsTitle: qsTr("Select log items")
     itemGroups: [
         choice(qsTr("Table"), "ckbTable", "selectedTableColumnsList"),
