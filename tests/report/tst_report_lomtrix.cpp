@@ -4,6 +4,7 @@
 #include "app/fonts.h"
 #include "lomtrix/lomtrixprinter.h"
 #include "lomtrix/lomtrixresults.h"
+#include "model/log.h"
 #include "tests/report/measurements.h"
 #include "tests/report/printedreport.h"
 
@@ -164,6 +165,17 @@ private slots:
         for (const QString &word : qAsConst(absent))
             QVERIFY2(!text.contains(word), qPrintable(word + "\n" + text));
         QCOMPARE(LomtrixResults::evaluation().workingHours, hours); // printing begins no evaluation
+    }
+
+    /// A record whose date nobody can read has no place in the chart, and does not stretch its time to where none was.
+    void recordWithoutDate()
+    {
+        Vibration vibration;
+        vibration.course.samples = 3;
+        const ExperimentChain first = chain(vibration);
+        const QString whole = Printed(first.get(), {"ckbChart"}).text(2);
+        first->logs()[1]->setRegisterDate({});
+        QCOMPARE(Printed(first.get(), {"ckbChart"}).text(2), whole);
     }
 
     /// The exponent of the unit stands above its line, in the style of the locale.
