@@ -12,7 +12,7 @@ VfConfigurationWindow {
 
     function fill(configuration) {
         unity.value = configuration.unity
-        sampleTime.text = configuration.sampleTime
+        sampleTime.show(configuration.sampleTime || "")
     }
 
     function collected() {

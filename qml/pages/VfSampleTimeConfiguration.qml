@@ -6,7 +6,7 @@ VfConfigurationWindow {
     property alias sampleTime: frame.text
     property alias caption: frame.label
 
-    function fill(configuration) { sampleTime = configuration.sampleTime || "" }
+    function fill(configuration) { frame.show(configuration.sampleTime || "") }
 
     function collected() {
         warning = frame.fault

@@ -13,11 +13,14 @@ InstrumentPageCase {
     oneType: true
     configuration: ({ sampleTime: "01:15" })
     fillRows: [{ tag: "an hour", configuration: { sampleTime: "60:00" }, ticked: "", texts: ["60:00"] },
+               { tag: "more than the field holds", configuration: { sampleTime: "100:00" }, ticked: "",
+                 texts: ["Set in the instrument: 100:00"] },
                { tag: "another product", configuration: { productName: "ZELK", sampleTime: "02:00" }, ticked: "",
                  texts: ["01:15"] }]
     applyRows: [{ tag: "as read", sent: configuration },
                 { tag: "none", typed: "00:00", sent: { sampleTime: "00:00" } },
                 { tag: "an hour", typed: "60:00" },
+                { tag: "more than the field holds", configuration: { sampleTime: "100:00" } },
                 { tag: "empty", typed: "" }]
     refusal: "The sample time field shall have mm:ss format"
     experiments: [{ index: 1, dateTime: moment, size: 1, exp_Name: "Saw", type: "H" },
