@@ -55,7 +55,7 @@ private:
     Lines criteriaOfToday() const
     {
         const QByteArray weightings = ',' + setting("VFTMWGHT") + ',' + setting("VFFQWGHT");
-        const auto line = [&](int number, const QByteArray &levels) {
+        const auto line = [&](int number, const QByteArray &levels) -> QByteArray {
             return QByteArray::number(number) + ",\"" + criteria[std::size_t(number - 1)].label + "\"," + levels + weightings;
         };
         const auto fixed = [&](int number) { return line(number, levels(criteria[std::size_t(number - 1)])); };

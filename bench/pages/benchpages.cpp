@@ -81,6 +81,8 @@ const Page pages[] = {
     {"thalvex4", "viewItem.currentView", 0, 1, "temperatureChart"},
     {"nembra", "viewItem", 2, 0, "levelChart"},
     {"nembraplus", "viewItem", 2, 0, "levelChart"},
+    {"ardel2", "viewItem", 1, 1, "noiseChart"}, // its table stands beside the tabs
+    {"zelk", "viewItem", 0, 1, "charts.currentView"},
 };
 
 /// The suite's window with one measurement open.
@@ -285,9 +287,10 @@ int main(int argc, char **argv)
         std::printf("TZ is not set: every local time is looked up anew, and the ratios say little.\n");
     std::printf("%-58s | %12s | %12s | %6s | %s\n", "what", "floor", "measured", "ratio", "goal");
     const QTemporaryDir dir;
+    const QStringList only = application.arguments().mid(1); // families; none: all
     for (const Page &family : pages) {
         for (const Subject &subject : subjects()) {
-            if (qstrcmp(subject.family.name, family.family) == 0)
+            if (qstrcmp(subject.family.name, family.family) == 0 && (only.isEmpty() || only.contains(QLatin1String(family.family))))
                 resultsPage(dir, family, subject);
         }
     }
