@@ -140,6 +140,7 @@ Item {
         function test_resultsOfAFile_data() {
             return [{ tag: "THALVEX 2", page: "Thalvex 2 - Results", state: "Thalvex2ResultsState" },
                     { tag: "THALVEX 4", page: "Thalvex 4 - Results", state: "Thalvex4ResultsState" },
+                    { tag: "ARDEL 2", page: "Ardel 2 - Results", state: "ArdelResultsState" },
                     { tag: "NEMBRA", page: "Nembra - Results", state: "NembraResultsState" },
                     { tag: "NEMBRA+", page: "Nembra+ - Results", state: "NembraPlusResultsState" },
                     { tag: "LOMTRIX", page: "Lomtrix - Exposure time", state: "LomtrixComponentsState" },

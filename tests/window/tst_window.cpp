@@ -87,6 +87,7 @@ private slots:
     void quantitiesGrowAndShrink();
     void configureAndErase_data() { products(); }
     void configureAndErase();
+    void schedulesByKeyboard();
     void unplugInMidDownload_data() { products(); }
     void unplugInMidDownload();
     void closeInMidDownload();
@@ -463,6 +464,57 @@ void TestWindow::configureAndErase()
     answer(QStringLiteral("Memory have been erased."), QMessageBox::Ok);
     QVERIFY(inside.memory().isEmpty());
     QTRY_VERIFY(!experimentItem(1));
+}
+
+/// A schedule over midnight is typed and added, a second time refused, and written with "Apply"; the instrument goes away
+/// when it is written again.
+void TestWindow::schedulesByKeyboard()
+{
+    m_instruments.push_back(std::make_unique<SimulatedInstrument>(simulatedArdel2(5)));
+    SimulatedInstrument &dosimeter = *m_instruments.back();
+    enter(QStringLiteral("ARDEL 2"));
+    press(QStringLiteral("Configure"));
+    QQuickItem *day = nullptr;
+    QTRY_VERIFY((day = findInWindows(has("description", QStringLiteral("Month day")))));
+    day = day->property("field").value<QQuickItem *>();
+    QWindow *window = day->window();
+    QVERIFY(QTest::qWaitForWindowActive(window));
+    const auto type = [window](const QByteArray &keys) {
+        for (const char key : keys)
+            QTest::keyClick(window, key == '\t' ? Qt::Key_Tab : key == '\n' ? Qt::Key_Return : QTest::asciiToKey(key));
+    };
+    const auto told = [](const char *warning) { return findInWindows(has("warning", QLatin1String(warning))); };
+    const auto apply = [] { // each tab has one
+        return findInWindows([](const QQuickItem *item) {
+            return item->property("buttonLabel") == QLatin1String("Apply") && item->isEnabled();
+        });
+    };
+    const auto schedules = [this] { return m_core->virtualSchedulelist().value<QList<QObject *>>().size(); };
+    while (schedules() > 0)
+        m_core->removeSchedule(0);
+    window->requestActivate();
+    type("\t\t\n"); // the second of the tabs
+    QTRY_VERIFY(day->isEnabled());
+    for (int tabs = 0; tabs < 10 && !day->hasActiveFocus(); ++tabs)
+        type("\t");
+    type("31\tn1\t2200\t0600\n");
+    QTRY_COMPARE(schedules(), 1);
+    QVERIFY(day->hasActiveFocus());
+    type("31\n");
+    QVERIFY(told("The schedule is not available."));
+    dosimeter.clearCommands();
+    QTRY_VERIFY(apply());
+    click(apply());
+    answer(QStringLiteral("The changes have been applied."), QMessageBox::Ok);
+    QCOMPARE(dosimeter.commands().size(), 12);
+    QVERIFY(dosimeter.commands()[1].startsWith("AT+VFSCH=1,0,\"n1\",\""));
+    QCOMPARE(dosimeter.commands().last(), QByteArray("AT+VFSCH=3,1\r\n"));
+
+    dosimeter.fault(Fault::unplugged(5).on("AT+VFSCH=2,").at(3));
+    QTRY_VERIFY(apply());
+    click(apply());
+    answer(QStringLiteral("Instrument disconnected."), QMessageBox::Ok);
+    QTRY_VERIFY(!window->isVisible() && findInWindows(has("buttonLabel", QStringLiteral("Find device"))));
 }
 
 void TestWindow::unplugInMidDownload()
