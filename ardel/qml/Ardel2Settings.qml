@@ -55,7 +55,7 @@ VfConfigurationBody {
             height: noise.height
             spacing: parent.spacing
 
-            VfNoiseSettings { id: noise; width: parent.width - length.width - parent.spacing }
+            VfNoiseSettings { id: noise; mark: " *"; width: parent.width - length.width - parent.spacing }
             VfFrame {
                 id: length
 

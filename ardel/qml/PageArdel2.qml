@@ -5,6 +5,16 @@ import "../../qml/pages"
 VfInstrumentPage {
     id: page
 
+    /// Whether a place of the schedules answered that the instrument cannot tell it now.
+    property bool heardBusy: false
+
+    /// Reads the schedules. A busy place is passed over: the list is not whole then, and written back it would clear it.
+    function readSchedules() {
+        heardBusy = false
+        var code = core.acquireScheduleList()
+        return code === root.deviceSuccessful && heardBusy ? root.deviceBusy : code
+    }
+
     /// Writes the schedules, which switches them on; where that fails half way they may be left off.
     function sendSchedules(sch) {
         send(qsTr("Changing the schedules") + "...", function () { return core.sndScheduleList(sch) },
@@ -18,6 +28,11 @@ VfInstrumentPage {
     configurationWindow: Ardel2Configuration { onScheduleListOK: page.sendSchedules(sch) }
     readings: [
         { read: core.acquireConfiguration, failed: dialogs.rcvCfgErrorDialog },
-        { read: core.acquireScheduleList, failed: dialogs.rcvSchedulListDialog }
+        { read: readSchedules, failed: dialogs.rcvSchedulListDialog }
     ]
+
+    Connections {
+        target: core
+        function onDeviceBusy() { page.heardBusy = true }
+    }
 }

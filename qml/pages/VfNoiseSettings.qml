@@ -6,6 +6,8 @@ import "../widgets"
 Row {
     id: settings
 
+    /// What stands behind the name of each weighting.
+    property string mark: ""
     /// The radio groups by the key of what they set.
     readonly property var groups: ({ timeWeighting: timeWeighting, frequencyWeighting: frequencyWeighting,
                                      octaveAnalysis: octaveAnalysis })
@@ -28,7 +30,7 @@ Row {
 
             Column {
                 spacing: Theme.gap
-                VfText { color: Theme.quietText; text: qsTr("Time") }
+                VfText { color: Theme.quietText; text: qsTr("Time") + settings.mark }
                 VfRadioGroup {
                     id: timeWeighting
 
@@ -39,7 +41,7 @@ Row {
             }
             Column {
                 spacing: Theme.gap
-                VfText { color: Theme.quietText; text: qsTr("Frequency") }
+                VfText { color: Theme.quietText; text: qsTr("Frequency") + settings.mark }
                 VfRadioGroup { id: frequencyWeighting; name: qsTr("Frequency"); choices: ["A", "C", "Z"] }
             }
         }

@@ -29,6 +29,7 @@ QtObject {
     signal scheduleListUpdate()
     signal scheduleOk()
     signal scheduleError(string message)
+    signal deviceBusy()
     signal deviceDisconnected()
     signal unsupportedDevice()
     signal findDeviceFinished()

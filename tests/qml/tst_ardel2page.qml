@@ -209,6 +209,18 @@ InstrumentPageCase {
             compare(core.calls, [["removeSchedule", 0], ["removeSchedule", 2]])
         }
 
+        /// A list with a place missing would clear that place when it is written.
+        function test_busyPlace() {
+            made.configuration.close()
+            core.meanwhile = function () {
+                if (core.calls.length === 2)
+                    core.deviceBusy()
+            }
+            made.configure()
+            compare([core.calls.length, Dialogs.open(made.dialogs)], [2, "deviceBusyDialog"])
+            verify(!made.configuration.visible)
+        }
+
         function test_apply_data() {
             return [{ tag: "written", code: 0, dialog: "configSuccesfulDialog", calls: 1 },
                     { tag: "error", code: -1, dialog: "configErrorDialog", calls: 2 },
