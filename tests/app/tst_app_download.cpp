@@ -138,7 +138,8 @@ private slots:
         Core reader([] { return QStringList(); });
         QSignalSpy position(&reader, &Core::experimentUpdated);
         reader.parseFile(path);
-        const bool first = kind.ending == QByteArray(".tvx"); // the smaller heat-stress meter's files show the first
+        // the files of the smaller heat-stress meter and of the dosimeter show the first
+        const bool first = QByteArrayList{".tvx", ".adl"}.contains(kind.ending);
         QCOMPARE(position.value(0).value(0).toInt(), first ? -3 : -2);
         QCOMPARE(members(reader), first ? downloaded.mid(0, 1) : downloaded);
         const auto points = reader.expCompList().value<QList<QObject *>>(); // owned by who reads them

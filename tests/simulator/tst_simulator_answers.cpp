@@ -213,6 +213,45 @@ private slots:
         QCOMPARE(spectrum.size(), qMax(1, bands));
     }
 
+    /// What the headers say follows from the levels of the records and the criteria that header 1 and the settings tell.
+    void dosesAreConsistent()
+    {
+        SimulatedExperiment plan{480, 60, "26/03/10,07:30:00-12", 240, 3600};
+        plan.index = 4;
+        const auto instrument = simulatedArdel2(7, {plan});
+        const auto all = records(*instrument, plan);
+        QCOMPARE(all.size(), plan.size);
+        auto settings = lines(*instrument, "AT+VFDOSCFG?");
+        std::sort(settings.begin(), settings.end());
+        settings[2].replace(2, header(*instrument, 1, 4).at(4)); // as they were, not as they are
+        settings[2].replace(3, header(*instrument, 1, 4).at(5));
+        settings[2].replace(4, header(*instrument, 1, 4).at(6));
+        for (int dosimeter = 0; dosimeter < 3; ++dosimeter) {
+            const double action = settings[dosimeter].at(2).toDouble();
+            const double criterion = settings[dosimeter].at(3).toDouble();
+            const double rate = settings[dosimeter].at(4).toDouble();
+            double dose = 0; // per cent
+            for (const QByteArrayList &record : all) {
+                const double now = record.at(8).toDouble();
+                dose += now < action ? 0 : 100 * std::pow(2, (now - criterion) / rate) * plan.interval / 28800;
+            }
+            const auto about = [](const QByteArray &text, double value) { return std::abs(text.toDouble() - value) < 0.00501; };
+            const QByteArrayList told = header(*instrument, 2 + dosimeter, 4);
+            QVERIFY(dose > 10 && dose < 1000 && about(told.at(2), dose));
+            QVERIFY(about(told.at(3), criterion + rate * std::log2(dose / 100)));
+            QVERIFY(about(told.at(4), criterion + rate * std::log2(dose / 100 * 28800 / (plan.size * plan.interval))));
+            QCOMPARE(all.last().at(5 + dosimeter), told.at(4));
+            QCOMPARE(told.at(5), settings[dosimeter].at(1));
+        }
+        QCOMPARE(lines(*instrument, "AT+VFXPHDR=6,4").size(), 9);
+
+        SimulatedExperiment night{10, 60, "26/03/10,01:00:00-12"};
+        night.index = 1;
+        const auto quiet = simulatedArdel2(7, {night});
+        QCOMPARE(header(*quiet, 2, 1).mid(2, 3), (QByteArrayList{"0.00", "", ""}));
+        QCOMPARE(records(*quiet, night).last().mid(5, 3), (QByteArrayList{"", "", ""}));
+    }
+
     void vibrationIsConsistent_data()
     {
         QTest::addColumn<QByteArray>("type");
