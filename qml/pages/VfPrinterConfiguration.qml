@@ -129,6 +129,7 @@ Window {
                     Repeater {
                         model: window.optionGroups
                         VfFrame {
+                            Layout.alignment: Qt.AlignTop
                             Layout.fillWidth: true
                             Layout.fillHeight: true
                             Layout.maximumHeight: Math.max(100, implicitHeight)
