@@ -59,6 +59,7 @@ const Report reports[] = {
     {"thalvex2", 1, 5, heatTable, heatChart, heatCells},
     {"thalvex4", 4, 5, heatTable, heatChart, heatCells},
     {"nembra", 1, 1, {"ckbTable"}, {"ckbChartLvl"}, {"level"}},
+    {"ardel2", 1, 1, {"ckbTable"}, {"ckbChartLvl", "ckbChartHisto"}, {"level"}},
     {"lomtrix", 1, 4, {"ckbTable"}, {"ckbChart"}, {"awX", "awY", "awZ", "vdvX", "vdvY", "vdvZ", "fcX", "fcY", "fcZ", "amr"}},
     {"zelk", 1, 8, {"ckbTable"}, {"ckbChart"}, {"physicalQuantitiesList"},
      {{QStringLiteral("selectedTableColumnsList"), eight}, {QStringLiteral("selectedChartsList"), eight}}},
