@@ -493,10 +493,19 @@ void TestWindow::schedulesByKeyboard()
     while (schedules() > 0)
         m_core->removeSchedule(0);
     window->requestActivate();
-    type("\t\t\n"); // the second of the tabs
+    const auto walkTo = [&type](const QQuickItem *item) {
+        for (int tabs = 0; tabs < 30 && !item->hasActiveFocus(); ++tabs)
+            type("\t");
+        return item->hasActiveFocus();
+    };
+    QQuickItem *tab = findInWindows([](const QQuickItem *item) {
+        return item->inherits("QQuickTabButton") && item->property("text") == QLatin1String("Schedule");
+    });
+    QVERIFY(tab);
+    QTRY_VERIFY(walkTo(tab));
+    type("\n");
     QTRY_VERIFY(day->isEnabled());
-    for (int tabs = 0; tabs < 10 && !day->hasActiveFocus(); ++tabs)
-        type("\t");
+    QTRY_VERIFY(walkTo(day));
     type("31\tn1\t2200\t0600\n");
     QTRY_COMPARE(schedules(), 1);
     QVERIFY(day->hasActiveFocus());
