@@ -213,6 +213,8 @@ void LomtrixPrinter::drawResults(const LomtrixResults &results)
 void LomtrixPrinter::drawChart(const Experiment &experiment)
 {
     TimeChart chart(m_chartFont);
+    if (isRehearsing())
+        return placeChart(chart, ChartHeight);
     chart.setLook({TimeChart::Curves::Markers, TimeChart::Beyond::Tenth, true});
     chart.setTitle(tr("Acceleration x Time"));
     chart.setTimeTitle(tr("Time", "X axis label"));
@@ -231,7 +233,8 @@ void LomtrixPrinter::drawChart(const Experiment &experiment)
         QVector<QPointF> points;
         points.reserve(logs.size());
         for (const Log *log : logs) {
-            if (const auto value = numberIn((static_cast<const LomtrixLog *>(log)->*curve.value)()); value && log->moment().isValid())
+            const std::optional<double> value = numberIn((static_cast<const LomtrixLog *>(log)->*curve.value)());
+            if (value && log->moment().isValid())
                 points.append({double(log->moment().toMSecsSinceEpoch()), *value});
         }
         const QString colour = QString::fromLatin1(curve.colour);
